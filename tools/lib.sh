@@ -1,0 +1,67 @@
+# Shared by the commands in this folder and at the root; sourced, never run.
+# shellcheck shell=bash
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+# shellcheck disable=SC2034  # read by the scripts that source this file
+cache=$root/.cache
+
+fail() {
+    echo "${0##*/}: $*" >&2
+    exit 1
+}
+
+# Runs a command with its output in a log file; shows the end of the log only when the command fails.
+logged() {
+    local log=$1
+    shift
+    mkdir -p "$(dirname "$log")"
+    "$@" >"$log" 2>&1 || {
+        local status=$?
+        echo "failed ($status): $*; last lines of $log:" >&2
+        tail -n 40 "$log" >&2
+        return "$status"
+    }
+}
+
+# Sets and exports what a 32-bit Wine needs; the word to start it with is in $wine.
+# The project's own Wine is preferred once it is unpacked, else the machine's is used.
+# shellcheck disable=SC2034  # wine is for the caller
+wine_env() {
+    local own=$cache/wine/usr
+    if [[ -x $own/lib/wine/wine ]]; then
+        wine=$own/lib/wine/wine
+        wineserver=$own/lib/wine/wineserver32
+        # Both library folders are named since libraries of one load libraries of the other.
+        export LD_LIBRARY_PATH=$own/lib/i386-linux-gnu:$cache/wine/lib/i386-linux-gnu
+        export WINESERVER=$wineserver
+    else
+        wine=$(command -v wine) || fail "no Wine; run tools/wine-setup"
+        wineserver=$(command -v wineserver || echo /usr/lib/wine/wineserver)
+    fi
+    export WINEARCH=win32 WINEDEBUG=${WINEDEBUG:--all}
+    # No menu entries in the user's desktop, no offer to download Mono or Gecko.
+    export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-winemenubuilder.exe=d;mscoree=d;mshtml=d}
+}
+
+# Ends everything in the prefix named by WINEPREFIX and waits until its server has written the registry.
+wine_end() {
+    "$wineserver" -k 2>/dev/null || true
+    "$wineserver" -w 2>/dev/null || true
+}
+
+# Starts a virtual display on a free number; exports DISPLAY and leaves the process id in $xvfb.
+start_display() {
+    local number
+    command -v Xvfb >/dev/null || fail "no Xvfb; run tools/install display"
+    coproc xvfb_fd { exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp 2>/dev/null; }
+    xvfb=$!
+    read -r -t 20 number <&"${xvfb_fd[0]}" || fail "Xvfb doesn't start"
+    export DISPLAY=:$number
+}
+
+stop_display() {
+    [[ -z ${xvfb:-} ]] && return
+    kill "$xvfb" 2>/dev/null || true
+    wait "$xvfb" 2>/dev/null || true
+    xvfb=""
+}
