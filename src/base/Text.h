@@ -1,0 +1,19 @@
+// Small operations on ANSI text.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace velkarix {
+
+inline constexpr std::string_view LineBreak = "\r\n";
+
+// The text before the first NUL, or the whole text if there is none.
+std::string TrimAtNull(std::string_view text);
+// Folds A to Z; bytes above 127 stay, since their case depends on the code page.
+std::string ToLower(std::string_view text);
+// Less than, equal to or greater than 0, with A to Z folded and other bytes by their value.
+int CompareIgnoringCase(std::string_view left, std::string_view right);
+bool EqualIgnoringCase(std::string_view left, std::string_view right);
+
+}  // namespace velkarix

@@ -1,0 +1,38 @@
+#include "forms/Control.h"
+
+#include <utility>
+
+namespace velkarix {
+
+Control::Control(std::string name, std::string text)
+    : name_(std::move(name)), text_(std::move(text)) {}
+
+void Control::SetText(std::string text) {
+    text_ = std::move(text);
+    Notify(Aspect::Text);
+}
+
+void Control::SetEnabled(bool enabled) {
+    enabled_ = enabled;
+    Notify(Aspect::Enabled);
+}
+
+void Control::SetVisible(bool visible) {
+    visible_ = visible;
+    Notify(Aspect::Visible);
+}
+
+void Control::SetSkinElement(std::string element) {
+    skinElement_ = std::move(element);
+    Notify(Aspect::Look);
+}
+
+bool Control::Raise(std::string_view) {
+    return false;
+}
+
+void Control::Notify(Aspect aspect) const {
+    if (view_ != nullptr) view_->Changed(aspect);
+}
+
+}  // namespace velkarix

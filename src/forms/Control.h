@@ -1,0 +1,75 @@
+// What all controls of a form have in common. A control here is a model: it knows its state and
+// its handlers, not how it is shown. Whoever shows it attaches a view and asks the model.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace velkarix {
+
+class ControlVisitor;
+
+// What of a control has changed.
+enum class Aspect {
+    Text,
+    Enabled,
+    Visible,
+    Look,          // picture, pressed state, skin element
+    Value,         // the chosen option, the text of a box
+    Columns,       // captions of a list's columns
+    Rows,          // a list's rows came, went or changed their order
+    RowState,      // texts, checks, colours or images of rows
+    Selection,     // the selected row
+    ColumnWidths,  // the columns are to be fitted to header and content
+};
+
+// The other side of a control: told of changes by the program, never of those by the user.
+class ControlView {
+  public:
+    virtual ~ControlView() = default;
+    virtual void Changed(Aspect aspect) = 0;
+};
+
+class Control {
+  public:
+    // `name` is the product's name of the control ("cmdKill", "optFilter(0)"); `text` is its
+    // caption, with "&" before its access key. A control that shows a picture instead of its
+    // caption still has a text, for screen readers.
+    Control(std::string name, std::string text);
+    virtual ~Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    const std::string& Name() const { return name_; }
+    const std::string& Text() const { return text_; }
+    void SetText(std::string text);
+    bool Enabled() const { return enabled_; }
+    void SetEnabled(bool enabled);
+    bool Visible() const { return visible_; }
+    void SetVisible(bool visible);
+    // The element of the program's own drawing that gives the control its look; empty is the
+    // system's look. Nothing but the drawing depends on it.
+    const std::string& SkinElement() const { return skinElement_; }
+    void SetSkinElement(std::string element);
+
+    // Does what the user's gesture `event` ("Click", "DblClick") does. False when the control
+    // has no such event or is disabled.
+    virtual bool Raise(std::string_view event);
+    virtual void Accept(ControlVisitor& visitor) = 0;
+
+    // Null takes the view away.
+    void AttachView(ControlView* view) { view_ = view; }
+
+  protected:
+    void Notify(Aspect aspect) const;
+
+  private:
+    std::string name_;
+    std::string text_;
+    std::string skinElement_;
+    bool enabled_ = true;
+    bool visible_ = true;
+    ControlView* view_ = nullptr;
+};
+
+}  // namespace velkarix

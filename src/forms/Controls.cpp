@@ -1,0 +1,130 @@
+#include "forms/Controls.h"
+
+#include <utility>
+
+#include "forms/ControlVisitor.h"
+
+namespace velkarix {
+
+namespace {
+
+// The one rule of what a click does: the handler runs unless the control is disabled.
+bool RaiseClick(const Control& control, std::string_view event, const Handler& handler) {
+    if (event != "Click" || !control.Enabled() || !handler) return false;
+    // A copy, since the handler may unload the form that the control stands on.
+    const Handler running = handler;
+    running();
+    return true;
+}
+
+}  // namespace
+
+Label::Label(std::string name, std::string text, Look look)
+    : Control(std::move(name), std::move(text)), look_(look) {}
+
+void Label::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+
+LinkLabel::LinkLabel(std::string name, std::string text, Handler onClick)
+    : Control(std::move(name), std::move(text)), onClick_(std::move(onClick)) {}
+
+bool LinkLabel::Raise(std::string_view event) {
+    return RaiseClick(*this, event, onClick_);
+}
+
+void LinkLabel::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+
+Button::Button(std::string name, std::string text, Handler onClick, Look look)
+    : Control(std::move(name), std::move(text)), look_(look), onClick_(std::move(onClick)) {}
+
+void Button::SetPressed(bool pressed) {
+    pressed_ = pressed;
+    Notify(Aspect::Look);
+}
+
+bool Button::Raise(std::string_view event) {
+    return RaiseClick(*this, event, onClick_);
+}
+
+void Button::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+
+PictureBox::PictureBox(std::string name, std::string text, std::string stockPicture, int size)
+    : Control(std::move(name), std::move(text)),
+      stockPicture_(std::move(stockPicture)),
+      size_(size) {}
+
+void PictureBox::SetPicture(Picture picture) {
+    picture_ = std::move(picture);
+    Notify(Aspect::Look);
+}
+
+void PictureBox::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+
+TextBox::TextBox(std::string name, std::string text, Shape shape)
+    : Control(std::move(name), std::move(text)), shape_(shape) {}
+
+void TextBox::SetValue(std::string value) {
+    value_ = std::move(value);
+    Notify(Aspect::Value);
+}
+
+void TextBox::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+
+OptionButton::OptionButton(OptionGroup& group, int index, std::string text)
+    : Control(group.Name() + "(" + std::to_string(index) + ")", std::move(text)),
+      group_(group),
+      index_(index) {}
+
+bool OptionButton::Chosen() const {
+    return group_.Chosen() == index_;
+}
+
+bool OptionButton::Raise(std::string_view event) {
+    if (event != "Click" || !Enabled()) return false;
+    group_.Choose(index_);
+    return RaiseClick(*this, event, group_.onClick_);
+}
+
+void OptionButton::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+
+OptionGroup::OptionGroup(std::string name, std::vector<std::string> captions, int chosen,
+                         Handler onClick)
+    : name_(std::move(name)), chosen_(chosen), onClick_(std::move(onClick)) {
+    for (std::string& caption : captions) {
+        const int index = static_cast<int>(options_.size());
+        options_.push_back(std::make_unique<OptionButton>(*this, index, std::move(caption)));
+    }
+}
+
+void OptionGroup::Choose(int index) {
+    chosen_ = index;
+    for (const auto& option : options_) option->Notify(Aspect::Value);
+}
+
+void Frame::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+
+Panel::Panel(std::string name, std::string text, Look look)
+    : Control(std::move(name), std::move(text)), look_(look) {}
+
+void Panel::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+
+void PageHost::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+
+}  // namespace velkarix

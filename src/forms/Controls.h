@@ -1,0 +1,156 @@
+// The simple controls of a form: labels, buttons, boxes, options, frames. Lists stand in
+// forms/ListView.h.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "base/Picture.h"
+#include "forms/Control.h"
+
+namespace velkarix {
+
+using Handler = std::function<void()>;
+
+class Label : public Control {
+  public:
+    enum class Look { Plain, Title };  // a title stands in large type on the banner
+    Label(std::string name, std::string text, Look look = Look::Plain);
+    Look LabelLook() const { return look_; }
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    Look look_;
+};
+
+// A label that the user clicks, or reaches by Tab and presses Enter on.
+class LinkLabel : public Control {
+  public:
+    LinkLabel(std::string name, std::string text, Handler onClick);
+    bool Raise(std::string_view event) override;
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    Handler onClick_;
+};
+
+class Button : public Control {
+  public:
+    enum class Look { Command, Picture };  // a picture button shows its skin element, with text
+    Button(std::string name, std::string text, Handler onClick, Look look = Look::Command);
+    Look ButtonLook() const { return look_; }
+    // A picture button that stays down marks the page on view.
+    bool Pressed() const { return pressed_; }
+    void SetPressed(bool pressed);
+    bool Raise(std::string_view event) override;
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    Look look_;
+    Handler onClick_;
+    bool pressed_ = false;
+};
+
+// Shows a picture of its own, or a stock picture that is told by name ("Software").
+class PictureBox : public Control {
+  public:
+    // `text` says in words what the picture shows; `size` is its edge in pixels at 96 DPI.
+    PictureBox(std::string name, std::string text, std::string stockPicture, int size);
+    const std::string& StockPicture() const { return stockPicture_; }
+    const std::optional<Picture>& OwnPicture() const { return picture_; }
+    int PictureSize() const { return size_; }
+    void SetPicture(Picture picture);
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    std::string stockPicture_;
+    int size_;
+    std::optional<Picture> picture_;
+};
+
+// A line of text, or several. Its content is Value(); Text() is its spoken name.
+class TextBox : public Control {
+  public:
+    struct Shape {
+        int widthInCharacters = 40;
+        int lines = 1;
+        bool readOnly = false;
+    };
+    TextBox(std::string name, std::string text, Shape shape);
+    const Shape& BoxShape() const { return shape_; }
+    const std::string& Value() const { return value_; }
+    void SetValue(std::string value);
+    // The user typed: the value changes without a word to the view.
+    void TakeInput(std::string value) { value_ = std::move(value); }
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    Shape shape_;
+    std::string value_;
+};
+
+class OptionGroup;
+
+// One of a group of options, named "group(index)".
+class OptionButton : public Control {
+  public:
+    OptionButton(OptionGroup& group, int index, std::string text);
+    int Index() const { return index_; }
+    bool Chosen() const;
+    bool Raise(std::string_view event) override;
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    friend class OptionGroup;
+    OptionGroup& group_;
+    int index_;
+};
+
+// Options of which exactly one is chosen.
+class OptionGroup {
+  public:
+    // `captions` in the order of the indices from 0. `onClick` hears of choices by the user.
+    OptionGroup(std::string name, std::vector<std::string> captions, int chosen, Handler onClick);
+    const std::string& Name() const { return name_; }
+    OptionButton& Option(int index) { return *options_.at(static_cast<std::size_t>(index)); }
+    int Chosen() const { return chosen_; }
+    void Choose(int index);  // by the program: no handler runs
+
+  private:
+    friend class OptionButton;
+    std::string name_;
+    int chosen_;
+    Handler onClick_;
+    std::vector<std::unique_ptr<OptionButton>> options_;
+};
+
+// A box with a caption around other controls.
+class Frame : public Control {
+  public:
+    using Control::Control;
+    void Accept(ControlVisitor& visitor) override;
+};
+
+// A plain area around other controls.
+class Panel : public Control {
+  public:
+    enum class Look { Banner, Strip };
+    Panel(std::string name, std::string text, Look look);
+    Look PanelLook() const { return look_; }
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    Look look_;
+};
+
+// The place in the main window where the page on view stands.
+class PageHost : public Control {
+  public:
+    using Control::Control;
+    void Accept(ControlVisitor& visitor) override;
+};
+
+}  // namespace velkarix

@@ -1,0 +1,51 @@
+#include "forms/Form.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace velkarix {
+
+Form::Form(std::string name, std::string caption, FormKind kind)
+    : name_(std::move(name)), caption_(std::move(caption)), kind_(kind) {}
+
+void Form::SetCaption(std::string caption) {
+    caption_ = std::move(caption);
+    if (view_ != nullptr) view_->CaptionChanged();
+}
+
+Control* Form::Find(std::string_view name) const {
+    const auto found =
+        std::find_if(controls_.begin(), controls_.end(),
+                     [&](const Control* control) { return control->Name() == name; });
+    return found == controls_.end() ? nullptr : *found;
+}
+
+bool Form::Raise(std::string_view handler) {
+    const std::size_t mark = handler.rfind('_');
+    if (mark == std::string_view::npos) return false;
+    Control* control = Find(handler.substr(0, mark));
+    return control != nullptr && control->Raise(handler.substr(mark + 1));
+}
+
+bool Form::RaiseKey(Key key, bool control) {
+    for (const Accelerator& accelerator : accelerators_) {
+        if (accelerator.key == key && accelerator.control == control) {
+            // A copy, since the handler may unload this form.
+            const std::string handler = accelerator.handler;
+            return Raise(handler);
+        }
+    }
+    return false;
+}
+
+void Form::Close() {
+    closing_ = true;
+    if (view_ != nullptr) view_->CloseAsked();
+}
+
+void Form::SetButtons(Button* defaultButton, Button* cancelButton) {
+    defaultButton_ = defaultButton;
+    cancelButton_ = cancelButton;
+}
+
+}  // namespace velkarix

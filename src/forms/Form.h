@@ -1,0 +1,102 @@
+// A form: its controls, layout, keys and life. Declared once in portable code; a Desktop shows it.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/Control.h"
+#include "forms/Layout.h"
+#include "forms/Timer.h"
+
+namespace velkarix {
+
+class Button;
+
+enum class FormKind {
+    Main,    // the program's window, with system menu and title
+    Page,    // stands inside a page host
+    Dialog,  // modal above another form
+};
+
+enum class Key { F5, Digit1, Digit2, Digit3, Digit4, Digit5, Digit6 };
+
+// A key that runs a handler wherever the focus is in the form.
+struct Accelerator {
+    Key key;
+    bool control;  // together with Ctrl
+    std::string handler;
+};
+
+class Form {
+  public:
+    Form(std::string name, std::string caption, FormKind kind);
+    virtual ~Form() = default;
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    const std::string& Name() const { return name_; }
+    FormKind Kind() const { return kind_; }
+    const std::string& Caption() const { return caption_; }
+    void SetCaption(std::string caption);
+    const std::string& SkinElement() const { return skinElement_; }
+    void SetSkinElement(std::string element) { skinElement_ = std::move(element); }
+
+    // The controls in tab order.
+    const std::vector<Control*>& Controls() const { return controls_; }
+    Control* Find(std::string_view name) const;  // null when there is none
+    const std::vector<Timer*>& Timers() const { return timers_; }
+    const Layout& FormLayout() const { return layout_; }
+    const std::vector<Accelerator>& Accelerators() const { return accelerators_; }
+    // Enter presses the default button where the focused control has no use for it, Esc the
+    // cancel button. Null when the form has none.
+    Button* DefaultButton() const { return defaultButton_; }
+    Button* CancelButton() const { return cancelButton_; }
+
+    // Runs once when the form is loaded, before it is shown, and when it is unloaded.
+    virtual void Form_Load() {}
+    virtual void Form_Unload() {}
+
+    // Runs a handler by its name, control + event ("cmdRefresh_Click"). False when there is no
+    // such control or event, or the control is disabled.
+    bool Raise(std::string_view handler);
+    // Runs the handler of an accelerator; false when the form has no such key.
+    bool RaiseKey(Key key, bool control);
+
+    // The form is to go: its user closed it, or its code did.
+    void Close();
+    bool Closing() const { return closing_; }
+
+    // Who shows the form hears of changes.
+    class View {
+      public:
+        virtual ~View() = default;
+        virtual void CaptionChanged() = 0;
+        virtual void CloseAsked() = 0;
+    };
+    void AttachView(View* view) { view_ = view; }
+
+  protected:
+    void SetControls(std::vector<Control*> controls) { controls_ = std::move(controls); }
+    void SetTimers(std::vector<Timer*> timers) { timers_ = std::move(timers); }
+    void SetLayout(Layout layout) { layout_ = std::move(layout); }
+    void SetAccelerators(std::vector<Accelerator> keys) { accelerators_ = std::move(keys); }
+    void SetButtons(Button* defaultButton, Button* cancelButton);
+
+  private:
+    std::string name_;
+    std::string caption_;
+    std::string skinElement_;
+    FormKind kind_;
+    bool closing_ = false;
+    std::vector<Control*> controls_;
+    std::vector<Timer*> timers_;
+    Layout layout_;
+    std::vector<Accelerator> accelerators_;
+    Button* defaultButton_ = nullptr;
+    Button* cancelButton_ = nullptr;
+    View* view_ = nullptr;
+};
+
+}  // namespace velkarix

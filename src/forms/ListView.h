@@ -1,0 +1,123 @@
+// A list with columns, check boxes and one selected row. The model owns the rows, their order and
+// the selection; there is no second copy: a view asks it for what it shows.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "forms/Control.h"
+#include "forms/ImageList.h"
+
+namespace velkarix {
+
+class ListView;
+
+// A colour as the system's number: the lowest byte is red, next green, next blue.
+using Color = std::uint32_t;
+
+enum class MouseButton { Left = 1, Right = 2 };
+enum class SortOrder { Ascending, Descending };
+
+class ListRow {
+  public:
+    ListRow(ListView& list, std::string key, std::string text, std::size_t image,
+            std::size_t columns);
+
+    const std::string& Key() const { return key_; }
+    // The text of a column; column 0 is the row's text.
+    const std::string& Text(std::size_t column) const { return texts_.at(column); }
+    void SetText(std::size_t column, std::string text);
+    std::size_t Image() const { return image_; }  // from 1
+    bool Checked() const { return checked_; }
+    void SetChecked(bool checked);
+    // The colour of the row's text in column 0; nothing is the list's own colour.
+    const std::optional<Color>& TextColor() const { return textColor_; }
+    void SetTextColor(Color color);
+    bool Bold() const { return bold_; }
+    void SetBold(bool bold);
+
+  private:
+    friend class ListView;
+    ListView& list_;
+    std::string key_;
+    std::vector<std::string> texts_;
+    std::size_t image_;
+    std::size_t position_ = 0;
+    std::optional<Color> textColor_;
+    bool checked_ = false;
+    bool bold_ = false;
+};
+
+class ListView : public Control {
+  public:
+    // Handlers of the user's gestures. The row of itemClick is the one that was clicked or
+    // reached by a key; columnClick counts from 1.
+    struct Handlers {
+        std::function<void(ListRow&)> itemClick;
+        std::function<void(int)> columnClick;
+        std::function<void()> doubleClick;
+        std::function<void(MouseButton)> mouseUp;
+    };
+
+    // `text` is the list's spoken name; `columns` are the captions, in order.
+    ListView(std::string name, std::string text, std::vector<std::string> columns,
+             Handlers handlers);
+
+    const std::vector<std::string>& Columns() const { return columns_; }
+
+    // The new row stands last, or at its place when the list is sorted. It lives until it is
+    // removed or the list is cleared.
+    ListRow& Add(std::string key, std::string text, std::size_t image);
+    void Remove(ListRow& row);
+    void Clear();
+    std::size_t RowCount() const { return rows_.size(); }
+    // The row at a position of the shown order, from 0.
+    ListRow& Row(std::size_t position);
+    std::size_t PositionOf(const ListRow& row);
+
+    ListRow* SelectedRow() const { return selected_; }
+    void Select(ListRow* row);  // by the program: no handler runs
+
+    std::size_t SortKey() const { return sortKey_; }
+    SortOrder Order() const { return order_; }
+    bool Sorted() const { return sorted_; }
+    // Sorting is by text without regard to the case of A to Z; rows that compare equal keep the
+    // order that they came in.
+    void Sort(std::size_t column, SortOrder order);
+
+    // The pictures of the rows; null detaches. The list doesn't own them.
+    const ImageList* Images() const { return images_; }
+    void SetImages(const ImageList* images);
+
+    // Fits all columns to their headers and contents.
+    void FitColumns() { Notify(Aspect::ColumnWidths); }
+
+    // The user's gestures. They change the model without a word to the view, then run handlers.
+    void UserSelect(ListRow* row);                // click or arrow key; null: beside all rows
+    void UserCheck(ListRow& row, bool checked);   // click on the box, or Space
+    void UserColumnClick(int column);             // from 1
+    void UserMouseUp(MouseButton button);         // also the Menu key, as the right button
+    bool Raise(std::string_view event) override;  // "DblClick"
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    friend class ListRow;
+    void PutInOrder();
+
+    std::vector<std::string> columns_;
+    Handlers handlers_;
+    std::vector<std::unique_ptr<ListRow>> rows_;
+    ListRow* selected_ = nullptr;
+    std::size_t sortKey_ = 0;
+    SortOrder order_ = SortOrder::Ascending;
+    bool sorted_ = false;
+    bool inOrder_ = true;
+    const ImageList* images_ = nullptr;
+};
+
+}  // namespace velkarix
