@@ -1,0 +1,49 @@
+// What the machine in memory was asked, in order, and which of its calls are to fail. All parts
+// of one machine share one journal.
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Errors.h"
+
+namespace velkarix {
+
+struct Call {
+    std::string name;       // as the interface calls it: "RegSetValueExA"
+    std::string arguments;  // what it was about: "HKCU\\Software\\Example, Name"
+
+    friend bool operator==(const Call&, const Call&) = default;
+};
+
+class CallJournal {
+  public:
+    // Every faked call begins with this: it writes the call down and gives the error that it must
+    // fail with; Success to go on.
+    ErrorCode Enter(std::string_view name, std::string arguments = {});
+
+    // The next call of this name fails with `error`; asked twice, the next two do.
+    void FailNext(const std::string& name, ErrorCode error = error::AccessDenied);
+    // Every call of this name fails from now on, until Success is given as `error`.
+    void FailAlways(const std::string& name, ErrorCode error = error::AccessDenied);
+
+    const std::vector<Call>& Calls() const { return calls_; }
+    // The names alone, in order; handy to assert an order of calls.
+    std::vector<std::string> Names() const;
+    // The arguments of each call of this name, in order.
+    std::vector<std::string> ArgumentsOf(std::string_view name) const;
+    std::size_t CountOf(std::string_view name) const;
+    // Forgets the calls; what was arranged to fail stays arranged.
+    void Clear() { calls_.clear(); }
+
+  private:
+    std::vector<Call> calls_;
+    std::map<std::string, std::deque<ErrorCode>, std::less<>> nextFailures_;
+    std::map<std::string, ErrorCode, std::less<>> lastingFailures_;
+};
+
+}  // namespace velkarix

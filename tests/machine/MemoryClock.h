@@ -1,0 +1,41 @@
+// The clock of the machine in memory: it stands still, in a zone with a fixed distance to UTC, and
+// reads dates as US English settings do.
+#pragma once
+
+#include "platform/Clock.h"
+#include "tests/machine/CallJournal.h"
+
+namespace velkarix {
+
+// A calendar time as the disk keeps times, and back; both without any zone.
+FileTime ToFileTime(const SystemTime& time);
+SystemTime ToSystemTime(FileTime time);
+// The same calendar time with its day of the week filled in.
+SystemTime MakeTime(int year, int month, int day, int hour = 0, int minute = 0, int second = 0);
+
+class MemoryClock : public Clock {
+  public:
+    explicit MemoryClock(CallJournal& journal) : journal_(journal) {}
+
+    // The present local time; noon of 1 June 2004 at first.
+    void SetLocalTime(const SystemTime& time) { now_ = time; }
+    // How many minutes local time is ahead of UTC; 0 at first.
+    void SetUtcOffset(int minutes) { offsetMinutes_ = minutes; }
+    // Whether the system has the automation library; it does at first.
+    void SetHasAutomation(bool there) { hasAutomation_ = there; }
+
+    // ---- Clock
+    SystemTime GetLocalTime() override;
+    std::optional<FileTime> FileTimeToLocalFileTime(FileTime time) override;
+    std::optional<SystemTime> FileTimeToSystemTime(FileTime time) override;
+    // m/d/yyyy, m/d/yy, yyyy-mm-dd, each also with h:mm, h:mm:ss and AM or PM behind it.
+    std::optional<OleDate> VarDateFromStr(const std::string& text) override;
+
+  private:
+    CallJournal& journal_;
+    SystemTime now_ = MakeTime(2004, 6, 1, 12);
+    int offsetMinutes_ = 0;
+    bool hasAutomation_ = true;
+};
+
+}  // namespace velkarix

@@ -1,0 +1,59 @@
+// The file calls over the disk in memory.
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "platform/FileSystem.h"
+#include "tests/machine/CallJournal.h"
+#include "tests/machine/MemoryDisk.h"
+
+namespace velkarix {
+
+class MemoryFileSystem : public FileSystem {
+  public:
+    MemoryFileSystem(CallJournal& journal, MemoryDisk& disk) : journal_(journal), disk_(disk) {}
+
+    // Whether the system has PathFileExistsA; it does at first.
+    void SetHasPathFileExists(bool there) { hasPathFileExists_ = there; }
+    // Files that weren't closed, and searches that weren't.
+    std::size_t OpenFileCount() const { return files_.size(); }
+    std::size_t OpenSearchCount() const { return searches_.size(); }
+
+    // ---- FileSystem
+    SearchHandle FindFirstFileA(const std::string& pattern, FoundFile& found) override;
+    bool FindNextFileA(SearchHandle search, FoundFile& found) override;
+    bool FindClose(SearchHandle search) override;
+    std::optional<bool> PathFileExistsA(const std::string& path) override;
+    std::uint32_t GetFileAttributesA(const std::string& path) override;
+    ErrorCode CreateDirectoryA(const std::string& path) override;
+    ErrorCode CreateFileA(const std::string& path, FileUse use, FileHandle& file) override;
+    std::optional<std::uint64_t> GetFileSize(FileHandle file) override;
+    ErrorCode ReadFile(FileHandle file, std::span<std::uint8_t> buffer,
+                       std::uint32_t& read) override;
+    ErrorCode WriteFile(FileHandle file, std::span<const std::uint8_t> data,
+                        std::uint32_t& written) override;
+    bool CloseFile(FileHandle file) override;
+
+  private:
+    struct OpenFile {
+        std::shared_ptr<MemoryEntry> entry;
+        FileUse use = FileUse::Read;
+        std::size_t position = 0;
+    };
+    struct Search {
+        std::vector<FoundFile> found;
+        std::size_t next = 0;
+    };
+
+    CallJournal& journal_;
+    MemoryDisk& disk_;
+    bool hasPathFileExists_ = true;
+    std::map<FileHandle, OpenFile> files_;
+    std::map<SearchHandle, Search> searches_;
+    std::uintptr_t nextHandle_ = 0x1000;
+};
+
+}  // namespace velkarix

@@ -1,0 +1,51 @@
+// One key of the registry in memory, with its values and subkeys.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "base/Bytes.h"
+#include "platform/Errors.h"
+#include "tests/machine/NamedList.h"
+
+namespace velkarix {
+
+struct MemoryValue {
+    std::string name;
+    std::uint32_t type = 0;  // of registryType, or any other number
+    Bytes data;
+
+    friend bool operator==(const MemoryValue&, const MemoryValue&) = default;
+};
+
+struct MemoryKey {
+    explicit MemoryKey(std::string keyName, MemoryKey* keyParent = nullptr)
+        : name(std::move(keyName)), parent(keyParent) {}
+
+    // The subkey at a path below this key, and null when there is none.
+    static std::shared_ptr<MemoryKey> Find(std::shared_ptr<MemoryKey> from,
+                                           const std::string& path);
+    // The same, making what is missing. Null when a level can't have a subkey or its name.
+    static std::shared_ptr<MemoryKey> Make(std::shared_ptr<MemoryKey> from,
+                                           const std::string& path);
+
+    void Set(const std::string& valueName, std::uint32_t type, Bytes data);
+    // Adds all values and subkeys of `source` to this key.
+    void CopyFrom(const MemoryKey& source);
+    // Marks this key and all below it: handles to them are of no use from then on.
+    void MarkDeleted();
+    // The path from the hive down, beginning with the hive's short name.
+    std::string FullPath() const;
+    // This key and all below it as text, each line behind `indent`.
+    std::string Text(const std::string& indent) const;
+
+    std::string name;
+    MemoryKey* parent = nullptr;  // null for a hive, and for a deleted key
+    bool deleted = false;
+    std::uint32_t allowed = 0xF003F;  // the rights that a caller can get
+    NamedList<MemoryKey> subKeys{ListOrder::Sorted};
+    NamedList<MemoryValue> values{ListOrder::AsAdded};
+};
+
+}  // namespace velkarix
