@@ -27,7 +27,7 @@ void Control::SetSkinElement(std::string element) {
     Notify(Aspect::Look);
 }
 
-bool Control::Raise(std::string_view) {
+bool Control::Fire(std::string_view) {
     return false;
 }
 

@@ -52,9 +52,12 @@ class Control {
     const std::string& SkinElement() const { return skinElement_; }
     void SetSkinElement(std::string element);
 
-    // Does what the user's gesture `event` ("Click", "DblClick") does. False when the control
-    // has no such event or is disabled.
-    virtual bool Raise(std::string_view event);
+    // The user's gesture `event` ("Click", "DblClick"). False when the control has no such event
+    // or is disabled.
+    bool Raise(std::string_view event) { return enabled_ && Fire(event); }
+    // Runs the handler of `event` by the program's own will, whether the control is enabled or
+    // not. False when the control has no such event.
+    virtual bool Fire(std::string_view event);
     virtual void Accept(ControlVisitor& visitor) = 0;
 
     // Null takes the view away.

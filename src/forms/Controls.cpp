@@ -8,9 +8,8 @@ namespace velkarix {
 
 namespace {
 
-// The one rule of what a click does: the handler runs unless the control is disabled.
-bool RaiseClick(const Control& control, std::string_view event, const Handler& handler) {
-    if (event != "Click" || !control.Enabled() || !handler) return false;
+bool FireClick(std::string_view event, const Handler& handler) {
+    if (event != "Click" || !handler) return false;
     // A copy, since the handler may unload the form that the control stands on.
     const Handler running = handler;
     running();
@@ -29,8 +28,8 @@ void Label::Accept(ControlVisitor& visitor) {
 LinkLabel::LinkLabel(std::string name, std::string text, Handler onClick)
     : Control(std::move(name), std::move(text)), onClick_(std::move(onClick)) {}
 
-bool LinkLabel::Raise(std::string_view event) {
-    return RaiseClick(*this, event, onClick_);
+bool LinkLabel::Fire(std::string_view event) {
+    return FireClick(event, onClick_);
 }
 
 void LinkLabel::Accept(ControlVisitor& visitor) {
@@ -45,8 +44,8 @@ void Button::SetPressed(bool pressed) {
     Notify(Aspect::Look);
 }
 
-bool Button::Raise(std::string_view event) {
-    return RaiseClick(*this, event, onClick_);
+bool Button::Fire(std::string_view event) {
+    return FireClick(event, onClick_);
 }
 
 void Button::Accept(ControlVisitor& visitor) {
@@ -88,10 +87,10 @@ bool OptionButton::Chosen() const {
     return group_.Chosen() == index_;
 }
 
-bool OptionButton::Raise(std::string_view event) {
-    if (event != "Click" || !Enabled()) return false;
+bool OptionButton::Fire(std::string_view event) {
+    if (event != "Click") return false;
     group_.Choose(index_);
-    return RaiseClick(*this, event, group_.onClick_);
+    return FireClick(event, group_.onClick_);
 }
 
 void OptionButton::Accept(ControlVisitor& visitor) {

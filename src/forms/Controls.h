@@ -30,7 +30,7 @@ class Label : public Control {
 class LinkLabel : public Control {
   public:
     LinkLabel(std::string name, std::string text, Handler onClick);
-    bool Raise(std::string_view event) override;
+    bool Fire(std::string_view event) override;
     void Accept(ControlVisitor& visitor) override;
 
   private:
@@ -45,7 +45,7 @@ class Button : public Control {
     // A picture button that stays down marks the page on view.
     bool Pressed() const { return pressed_; }
     void SetPressed(bool pressed);
-    bool Raise(std::string_view event) override;
+    bool Fire(std::string_view event) override;
     void Accept(ControlVisitor& visitor) override;
 
   private:
@@ -100,7 +100,7 @@ class OptionButton : public Control {
     OptionButton(OptionGroup& group, int index, std::string text);
     int Index() const { return index_; }
     bool Chosen() const;
-    bool Raise(std::string_view event) override;
+    bool Fire(std::string_view event) override;
     void Accept(ControlVisitor& visitor) override;
 
   private:

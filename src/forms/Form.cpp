@@ -20,11 +20,15 @@ Control* Form::Find(std::string_view name) const {
     return found == controls_.end() ? nullptr : *found;
 }
 
-bool Form::Raise(std::string_view handler) {
+std::pair<Control*, std::string_view> Form::Target(std::string_view handler) const {
     const std::size_t mark = handler.rfind('_');
-    if (mark == std::string_view::npos) return false;
-    Control* control = Find(handler.substr(0, mark));
-    return control != nullptr && control->Raise(handler.substr(mark + 1));
+    if (mark == std::string_view::npos) return {nullptr, {}};
+    return {Find(handler.substr(0, mark)), handler.substr(mark + 1)};
+}
+
+bool Form::Run(std::string_view handler) {
+    const auto [control, event] = Target(handler);
+    return control != nullptr && control->Fire(event);
 }
 
 bool Form::RaiseKey(Key key, bool control) {
@@ -32,7 +36,8 @@ bool Form::RaiseKey(Key key, bool control) {
         if (accelerator.key == key && accelerator.control == control) {
             // A copy, since the handler may unload this form.
             const std::string handler = accelerator.handler;
-            return Raise(handler);
+            const auto [target, event] = Target(handler);
+            return target != nullptr && target->Raise(event);
         }
     }
     return false;

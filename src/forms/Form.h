@@ -1,9 +1,9 @@
 // A form: its controls, layout, keys and life. Declared once in portable code; a Desktop shows it.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "forms/Control.h"
@@ -58,10 +58,11 @@ class Form {
     virtual void Form_Load() {}
     virtual void Form_Unload() {}
 
-    // Runs a handler by its name, control + event ("cmdRefresh_Click"). False when there is no
-    // such control or event, or the control is disabled.
-    bool Raise(std::string_view handler);
-    // Runs the handler of an accelerator; false when the form has no such key.
+    // Runs a handler by its name, control + event ("cmdRefresh_Click"), whether its control is
+    // enabled or not. False when there is no such control or event.
+    bool Run(std::string_view handler);
+    // The user pressed a key: runs its handler. False when the form has no such key or the
+    // handler's control is disabled.
     bool RaiseKey(Key key, bool control);
 
     // The form is to go: its user closed it, or its code did.
@@ -85,6 +86,9 @@ class Form {
     void SetButtons(Button* defaultButton, Button* cancelButton);
 
   private:
+    // The control and the event that a handler's name is made of.
+    std::pair<Control*, std::string_view> Target(std::string_view handler) const;
+
     std::string name_;
     std::string caption_;
     std::string skinElement_;

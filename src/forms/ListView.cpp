@@ -122,7 +122,7 @@ void ListView::UserMouseUp(MouseButton button) {
     if (handlers_.mouseUp) handlers_.mouseUp(button);
 }
 
-bool ListView::Raise(std::string_view event) {
+bool ListView::Fire(std::string_view event) {
     if (event != "DblClick" || !handlers_.doubleClick) return false;
     handlers_.doubleClick();
     return true;

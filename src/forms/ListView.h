@@ -98,11 +98,11 @@ class ListView : public Control {
     void FitColumns() { Notify(Aspect::ColumnWidths); }
 
     // The user's gestures. They change the model without a word to the view, then run handlers.
-    void UserSelect(ListRow* row);                // click or arrow key; null: beside all rows
-    void UserCheck(ListRow& row, bool checked);   // click on the box, or Space
-    void UserColumnClick(int column);             // from 1
-    void UserMouseUp(MouseButton button);         // also the Menu key, as the right button
-    bool Raise(std::string_view event) override;  // "DblClick"
+    void UserSelect(ListRow* row);               // click or arrow key; null: beside all rows
+    void UserCheck(ListRow& row, bool checked);  // click on the box, or Space
+    void UserColumnClick(int column);            // from 1
+    void UserMouseUp(MouseButton button);        // also the Menu key, as the right button
+    bool Fire(std::string_view event) override;  // "DblClick"
     void Accept(ControlVisitor& visitor) override;
 
   private:

@@ -1,4 +1,4 @@
-#include "machine/RecordingDesktop.h"
+#include "tests/machine/RecordingDesktop.h"
 
 namespace velkarix {
 
