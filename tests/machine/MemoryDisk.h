@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/Errors.h"
 #include "tests/machine/MemoryEntry.h"
 
 namespace velkarix {
@@ -35,7 +36,9 @@ class MemoryDisk {
     // The folder that a path's last level is in, and that level's name; null when there is no
     // such folder.
     std::shared_ptr<MemoryEntry> FindFolderOf(const std::string& path, std::string& lastName) const;
-    // The entry for writing, made when its folder is there; null when it can't be written.
+    // The file for reading; null, with the error, when it isn't there or can't be opened.
+    std::shared_ptr<MemoryEntry> Readable(const std::string& path, ErrorCode& error) const;
+    // The file for writing, made when its folder is there; null, with the error, when it can't.
     std::shared_ptr<MemoryEntry> Writable(const std::string& path, ErrorCode& error);
     // Takes up to `count` bytes from what is free and says how many there were.
     std::size_t TakeSpace(std::size_t count);
@@ -47,6 +50,7 @@ class MemoryDisk {
         std::vector<std::string> levels;
     };
     std::optional<Parts> Split(const std::string& path) const;
+    std::shared_ptr<MemoryEntry> Walk(const Parts& parts) const;
     MemoryEntry& Add(const std::string& path, std::uint32_t attributes);
 
     NamedList<MemoryEntry> drives_{ListOrder::Sorted};

@@ -26,17 +26,18 @@ struct MemoryKey {
     // The subkey at a path below this key, and null when there is none.
     static std::shared_ptr<MemoryKey> Find(std::shared_ptr<MemoryKey> from,
                                            const std::string& path);
-    // The same, making what is missing. Null when a level can't have a subkey or its name.
-    static std::shared_ptr<MemoryKey> Make(std::shared_ptr<MemoryKey> from,
-                                           const std::string& path);
+    // Goes down a path from `from`, making what is missing where the key above gives `neededRight`.
+    // `from` is the subkey on Success.
+    static ErrorCode Make(std::shared_ptr<MemoryKey>& from, const std::string& path,
+                          std::uint32_t neededRight);
 
     void Set(const std::string& valueName, std::uint32_t type, Bytes data);
     // Adds all values and subkeys of `source` to this key.
     void CopyFrom(const MemoryKey& source);
     // Marks this key and all below it: handles to them are of no use from then on.
     void MarkDeleted();
-    // The path from the hive down, beginning with the hive's short name.
-    std::string FullPath() const;
+    // Limits what callers may do with this key and all below it.
+    void Allow(std::uint32_t rights);
     // This key and all below it as text, each line behind `indent`.
     std::string Text(const std::string& indent) const;
 

@@ -37,7 +37,7 @@ class MemoryMachine {
     CallJournal journal_;  // before the parts, which write into it
 
   public:
-    explicit MemoryMachine(NamedSystem system = NamedSystem::WindowsXp);
+    explicit MemoryMachine(NamedSystem named = NamedSystem::WindowsXp);
     MemoryMachine(const MemoryMachine&) = delete;
     MemoryMachine& operator=(const MemoryMachine&) = delete;
 
@@ -52,7 +52,7 @@ class MemoryMachine {
     // Makes the machine answer as one of the nine systems: version, rules of the registry, which
     // libraries there are (PSAPI on the NT family, Toolhelp everywhere but on NT 3.51 and 4.0),
     // tokens. Files and registry stay.
-    void SetSystem(NamedSystem system);
+    void SetSystem(NamedSystem named);
     // The same with Windows 98 or Windows XP for the family.
     void SetFamily(Family family);
 

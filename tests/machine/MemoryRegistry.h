@@ -25,7 +25,7 @@ class MemoryRegistry : public Registry {
     // Whether the system has SHCopyKeyA; it does at first.
     void SetHasCopyKey(bool there) { hasCopyKey_ = there; }
 
-    // Each makes the key when missing. Without a value name the key alone is made.
+    // Each makes the key when missing. An empty value name is the key's default value.
     void AddKey(Hive hive, const std::string& key);
     // A text (REG_SZ), stored with its NUL.
     void SetValue(Hive hive, const std::string& key, const std::string& name,
@@ -81,18 +81,25 @@ class MemoryRegistry : public Registry {
     struct OpenKey {
         std::shared_ptr<MemoryKey> key;
         std::uint32_t access = 0;
+        std::string path;  // as it was opened, for the journal
     };
 
-    std::shared_ptr<MemoryKey> RootOf(KeyHandle handle) const;
+    std::shared_ptr<MemoryKey> RootOf(KeyHandle handle) const;  // null for no hive
     std::shared_ptr<MemoryKey> KeyAt(Hive hive, const std::string& path) const;
+    std::shared_ptr<MemoryKey> MakeKey(Hive hive, const std::string& path);
     // The key behind a handle, when the handle was opened with the wanted rights.
     ErrorCode KeyOf(KeyHandle handle, std::uint32_t wanted, std::shared_ptr<MemoryKey>& key) const;
+    // The key that a path starts from, when the path is one that the system takes.
+    ErrorCode StartOf(KeyHandle parent, const std::string& subKey,
+                      std::shared_ptr<MemoryKey>& key) const;
     ErrorCode Walk(KeyHandle parent, const std::string& subKey,
                    std::shared_ptr<MemoryKey>& key) const;
-    ErrorCode Open(const std::shared_ptr<MemoryKey>& key, std::uint32_t wanted, KeyHandle& opened);
+    ErrorCode FindAndOpen(KeyHandle parent, const std::string& subKey, std::uint32_t wanted,
+                          KeyHandle& opened);
+    ErrorCode Open(const std::shared_ptr<MemoryKey>& key, std::uint32_t wanted,
+                   const std::string& path, KeyHandle& opened);
     ErrorCode EnumKey(KeyHandle key, std::uint32_t index, std::uint32_t capacity,
                       std::string& name);
-    ErrorCode CheckValueName(const std::string& name) const;
     // "HKCU\\Software\\Example" for the journal.
     std::string Describe(KeyHandle handle, const std::string& below = {}) const;
 

@@ -40,6 +40,14 @@ class NamedList {
         return index < items_.size() ? items_[index].second : nullptr;
     }
 
+    std::vector<std::string> Names() const {
+        std::vector<std::string> names;
+        for (std::size_t index = 0; const auto item = At(index); ++index) {
+            names.push_back(item->name);
+        }
+        return names;
+    }
+
     // The name must be new to the list.
     std::shared_ptr<Item> Add(std::shared_ptr<Item> item) {
         std::string folded = FoldCase(item->name);
@@ -50,11 +58,13 @@ class NamedList {
     }
 
     bool Remove(std::string_view name) {
-        const std::string folded = FoldCase(name);
-        if (byName_.erase(folded) == 0) {
+        const auto found = byName_.find(FoldCase(name));
+        if (found == byName_.end()) {
             return false;
         }
-        std::erase_if(items_, [&](const auto& item) { return item.first == folded; });
+        items_.erase(std::find_if(items_.begin(), items_.end(),
+                                  [&](const auto& item) { return item.second == found->second; }));
+        byName_.erase(found);
         return true;
     }
 

@@ -12,7 +12,9 @@ void RecordingDesktop::Create(Form& form, PageHost* host) {
     events.push_back("create " + form.Name() + (host != nullptr ? " in " + host->Name() : ""));
 }
 
-void RecordingDesktop::Show(Form& form) { events.push_back("show " + form.Name()); }
+void RecordingDesktop::Show(Form& form) {
+    events.push_back("show " + form.Name());
+}
 
 void RecordingDesktop::ShowModal(Form& form, Form& owner) {
     events.push_back("modal " + form.Name() + " above " + owner.Name());
@@ -29,7 +31,9 @@ std::uintptr_t RecordingDesktop::HandleOf(const Form& form) {
     return found == handles_.end() ? 0 : found->second;
 }
 
-void RecordingDesktop::Focus(Control& control) { events.push_back("focus " + control.Name()); }
+void RecordingDesktop::Focus(Control& control) {
+    events.push_back("focus " + control.Name());
+}
 
 MessageAnswer RecordingDesktop::ShowMessage(const Message& message) {
     messages.push_back(message);

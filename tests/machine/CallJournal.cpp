@@ -1,0 +1,54 @@
+#include "tests/machine/CallJournal.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace velkarix {
+
+ErrorCode CallJournal::Enter(std::string_view name, std::string arguments) {
+    calls_.push_back({std::string(name), std::move(arguments)});
+    const auto next = nextFailures_.find(name);
+    if (next != nextFailures_.end()) {
+        const ErrorCode error = next->second.front();
+        next->second.pop_front();
+        if (next->second.empty()) {
+            nextFailures_.erase(next);
+        }
+        return error;
+    }
+    const auto lasting = lastingFailures_.find(name);
+    return lasting == lastingFailures_.end() ? error::Success : lasting->second;
+}
+
+void CallJournal::FailNext(const std::string& name, ErrorCode error) {
+    nextFailures_[name].push_back(error);
+}
+
+void CallJournal::FailAlways(const std::string& name, ErrorCode error) {
+    lastingFailures_[name] = error;
+}
+
+std::vector<std::string> CallJournal::Names() const {
+    std::vector<std::string> names;
+    for (const Call& call : calls_) {
+        names.push_back(call.name);
+    }
+    return names;
+}
+
+std::vector<std::string> CallJournal::ArgumentsOf(std::string_view name) const {
+    std::vector<std::string> arguments;
+    for (const Call& call : calls_) {
+        if (call.name == name) {
+            arguments.push_back(call.arguments);
+        }
+    }
+    return arguments;
+}
+
+std::size_t CallJournal::CountOf(std::string_view name) const {
+    return static_cast<std::size_t>(std::count_if(
+        calls_.begin(), calls_.end(), [&](const Call& call) { return call.name == name; }));
+}
+
+}  // namespace velkarix

@@ -1,0 +1,200 @@
+#include "tests/machine/MemoryDisk.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace velkarix {
+namespace {
+
+constexpr std::size_t longestPath = 259;  // bytes, without the NUL
+
+bool IsSeparator(char character) {
+    return character == '\\' || character == '/';
+}
+
+// The part of a path that names its drive or share: "C:" or "\\server\share"; empty for others.
+std::string DriveOf(const std::string& path) {
+    if (path.size() >= 2 && path[1] == ':') {
+        return path.substr(0, 2);
+    }
+    if (path.size() < 2 || !IsSeparator(path[0]) || !IsSeparator(path[1])) {
+        return {};
+    }
+    const std::size_t share = path.find('\\', 2);
+    return share == std::string::npos ? std::string() : path.substr(0, path.find('\\', share + 1));
+}
+
+// The system overlooks blanks and dots at the end of a name.
+std::string WithoutTail(std::string level) {
+    level.erase(level.find_last_not_of(". ") + 1);
+    return level;
+}
+
+void AppendLevels(const std::string& path, std::vector<std::string>& levels) {
+    for (std::size_t start = 0; start < path.size();) {
+        const std::size_t end = std::min(path.find_first_of("\\/", start), path.size());
+        const std::string level = path.substr(start, end - start);
+        if (level == "..") {
+            if (!levels.empty()) {
+                levels.pop_back();
+            }
+        } else if (std::string name = WithoutTail(level); !name.empty()) {
+            levels.push_back(std::move(name));
+        }
+        start = end + 1;
+    }
+}
+
+std::shared_ptr<MemoryEntry> Child(const MemoryEntry& folder, const std::string& name) {
+    if (auto found = folder.children.Find(name)) {
+        return found;
+    }
+    for (std::size_t index = 0; auto child = folder.children.At(index); ++index) {
+        if (!child->shortName.empty() && SameName(child->shortName, name)) {
+            return child;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+MemoryDisk::MemoryDisk() : currentFolder_("C:\\Velkarix") {
+    AddFolder(currentFolder_);
+    AddFolder("C:\\WINDOWS");
+}
+
+std::optional<MemoryDisk::Parts> MemoryDisk::Split(const std::string& path) const {
+    if (path.empty() || path.size() > longestPath ||
+        path.find_first_of("<>|\"*?") != std::string::npos) {
+        return std::nullopt;
+    }
+    Parts parts{DriveOf(path), {}};
+    std::string below = path.substr(parts.drive.size());
+    if (parts.drive.empty()) {
+        parts.drive = DriveOf(currentFolder_);
+        if (!IsSeparator(path[0])) {
+            AppendLevels(currentFolder_.substr(parts.drive.size()), parts.levels);
+        }
+    }
+    AppendLevels(below, parts.levels);
+    return parts;
+}
+
+MemoryEntry& MemoryDisk::Add(const std::string& path, std::uint32_t attributes) {
+    const Parts parts = Split(path).value();
+    std::shared_ptr<MemoryEntry> entry = drives_.Find(parts.drive);
+    if (!entry) {
+        entry = drives_.Add(std::make_shared<MemoryEntry>(parts.drive, fileAttribute::Directory));
+    }
+    for (std::size_t level = 0; level < parts.levels.size(); ++level) {
+        std::shared_ptr<MemoryEntry> next = Child(*entry, parts.levels[level]);
+        if (!next) {
+            const bool isLast = level + 1 == parts.levels.size();
+            next = entry->children.Add(std::make_shared<MemoryEntry>(
+                parts.levels[level], isLast ? attributes : fileAttribute::Directory));
+        }
+        entry = next;
+    }
+    return *entry;
+}
+
+MemoryEntry& MemoryDisk::AddFile(const std::string& path) {
+    return Add(path, fileAttribute::Archive);
+}
+
+MemoryEntry& MemoryDisk::AddFolder(const std::string& path) {
+    return Add(path, fileAttribute::Directory);
+}
+
+bool MemoryDisk::Remove(const std::string& path) {
+    std::string name;
+    const auto folder = FindFolderOf(path, name);
+    const auto entry = Find(path);
+    return folder && entry && folder->children.Remove(entry->name);
+}
+
+std::optional<std::string> MemoryDisk::ContentOf(const std::string& path) const {
+    const auto entry = Find(path);
+    if (!entry || entry->IsFolder()) {
+        return std::nullopt;
+    }
+    return std::string(entry->content.begin(), entry->content.end());
+}
+
+std::shared_ptr<MemoryEntry> MemoryDisk::Walk(const Parts& parts) const {
+    std::shared_ptr<MemoryEntry> entry = drives_.Find(parts.drive);
+    for (const std::string& level : parts.levels) {
+        if (!entry) {
+            return nullptr;
+        }
+        entry = Child(*entry, level);
+    }
+    return entry;
+}
+
+std::shared_ptr<MemoryEntry> MemoryDisk::Find(const std::string& path) const {
+    const std::optional<Parts> parts = Split(path);
+    const auto entry = parts ? Walk(*parts) : nullptr;
+    const bool namesAFolder = !path.empty() && IsSeparator(path.back());
+    return entry && namesAFolder && !entry->IsFolder() ? nullptr : entry;
+}
+
+std::shared_ptr<MemoryEntry> MemoryDisk::FindFolderOf(const std::string& path,
+                                                      std::string& lastName) const {
+    std::optional<Parts> parts = Split(path);
+    if (!parts || parts->levels.empty()) {
+        return nullptr;
+    }
+    lastName = parts->levels.back();
+    parts->levels.pop_back();
+    const auto folder = Walk(*parts);
+    return folder && folder->IsFolder() ? folder : nullptr;
+}
+
+std::shared_ptr<MemoryEntry> MemoryDisk::Readable(const std::string& path, ErrorCode& error) const {
+    std::string name;
+    const auto entry = Find(path);
+    if (!entry) {
+        error = FindFolderOf(path, name) ? error::FileNotFound : error::PathNotFound;
+        return nullptr;
+    }
+    if (entry->IsFolder() || entry->unreadable) {
+        error = entry->IsFolder() ? error::AccessDenied : error::SharingViolation;
+        return nullptr;
+    }
+    return entry;
+}
+
+std::shared_ptr<MemoryEntry> MemoryDisk::Writable(const std::string& path, ErrorCode& error) {
+    std::string name;
+    const auto folder = FindFolderOf(path, name);
+    if (!folder) {
+        error = error::PathNotFound;
+        return nullptr;
+    }
+    std::shared_ptr<MemoryEntry> entry = Child(*folder, name);
+    if (entry && (entry->IsFolder() || (entry->attributes & fileAttribute::ReadOnly) != 0)) {
+        error = error::AccessDenied;
+        return nullptr;
+    }
+    if (entry && entry->unreadable) {
+        error = error::SharingViolation;
+        return nullptr;
+    }
+    error = error::Success;
+    return entry
+               ? entry
+               : folder->children.Add(std::make_shared<MemoryEntry>(name, fileAttribute::Archive));
+}
+
+std::size_t MemoryDisk::TakeSpace(std::size_t count) {
+    if (!freeBytes_) {
+        return count;
+    }
+    const std::size_t taken = static_cast<std::size_t>(std::min<std::uint64_t>(count, *freeBytes_));
+    *freeBytes_ -= taken;
+    return taken;
+}
+
+}  // namespace velkarix

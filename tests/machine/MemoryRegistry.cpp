@@ -1,0 +1,413 @@
+#include "tests/machine/MemoryRegistry.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace velkarix {
+namespace {
+
+namespace right {
+constexpr std::uint32_t QueryValue = 0x1;
+constexpr std::uint32_t SetValue = 0x2;
+constexpr std::uint32_t CreateSubKey = 0x4;
+constexpr std::uint32_t EnumerateSubKeys = 0x8;
+constexpr std::uint32_t All = static_cast<std::uint32_t>(KeyAccess::All);
+constexpr std::uint32_t AsMuchAsAllowed = 0x2000000;
+}  // namespace right
+
+constexpr ErrorCode badPathName = 161;
+constexpr std::size_t longestValueName95 = 255;
+constexpr std::size_t longestValueNameNt = 16383;
+
+// Copies as much as fits and tells the whole size; a text gets a NUL behind it where it lacks one
+// and there is room.
+ErrorCode Deliver(const MemoryValue& value, Bytes& buffer, std::uint32_t& size) {
+    size = static_cast<std::uint32_t>(value.data.size());
+    if (buffer.size() < value.data.size()) {
+        return error::MoreData;
+    }
+    std::copy(value.data.begin(), value.data.end(), buffer.begin());
+    const bool isText = value.type == registryType::Sz || value.type == registryType::ExpandSz ||
+                        value.type == registryType::MultiSz;
+    if (isText && buffer.size() > value.data.size() && !value.data.empty() &&
+        value.data.back() != 0) {
+        buffer[value.data.size()] = 0;
+    }
+    return error::Success;
+}
+
+}  // namespace
+
+MemoryRegistry::MemoryRegistry(CallJournal& journal)
+    : journal_(journal),
+      localMachine_(std::make_shared<MemoryKey>("HKLM")),
+      currentUser_(std::make_shared<MemoryKey>("HKCU")),
+      // The classes are a part of the machine's hive under a second name.
+      classesRoot_(localMachine_) {
+    MemoryKey::Make(classesRoot_, "SOFTWARE\\Classes", right::CreateSubKey);
+}
+
+// ---- Set-up and looking
+
+void MemoryRegistry::AddKey(Hive hive, const std::string& key) {
+    MakeKey(hive, key);
+}
+
+void MemoryRegistry::SetValue(Hive hive, const std::string& key, const std::string& name,
+                              const std::string& text) {
+    Bytes data(text.begin(), text.end());
+    data.push_back(0);
+    SetRaw(hive, key, name, registryType::Sz, std::move(data));
+}
+
+void MemoryRegistry::SetDword(Hive hive, const std::string& key, const std::string& name,
+                              std::uint32_t value) {
+    Bytes data;
+    for (int shift = 0; shift < 32; shift += 8) {
+        data.push_back(static_cast<std::uint8_t>(value >> shift));
+    }
+    SetRaw(hive, key, name, registryType::Dword, std::move(data));
+}
+
+void MemoryRegistry::SetRaw(Hive hive, const std::string& key, const std::string& name,
+                            std::uint32_t type, Bytes data) {
+    MakeKey(hive, key)->Set(name, type, std::move(data));
+}
+
+void MemoryRegistry::RemoveKey(Hive hive, const std::string& key) {
+    if (const auto found = KeyAt(hive, key); found && found->parent != nullptr) {
+        MemoryKey* parent = found->parent;
+        found->MarkDeleted();
+        parent->subKeys.Remove(found->name);
+    }
+}
+
+void MemoryRegistry::Restrict(Hive hive, const std::string& key, std::optional<KeyAccess> allowed) {
+    MakeKey(hive, key)->Allow(allowed ? static_cast<std::uint32_t>(*allowed) : 0);
+}
+
+bool MemoryRegistry::HasKey(Hive hive, const std::string& key) const {
+    return KeyAt(hive, key) != nullptr;
+}
+
+std::optional<MemoryValue> MemoryRegistry::ValueAt(Hive hive, const std::string& key,
+                                                   const std::string& name) const {
+    const auto found = KeyAt(hive, key);
+    const auto value = found ? found->values.Find(name) : nullptr;
+    return value ? std::optional(*value) : std::nullopt;
+}
+
+std::optional<std::string> MemoryRegistry::TextAt(Hive hive, const std::string& key,
+                                                  const std::string& name) const {
+    const auto value = ValueAt(hive, key, name);
+    if (!value) {
+        return std::nullopt;
+    }
+    return std::string(value->data.begin(), std::find(value->data.begin(), value->data.end(), 0));
+}
+
+std::vector<std::string> MemoryRegistry::SubKeysOf(Hive hive, const std::string& key) const {
+    const auto found = KeyAt(hive, key);
+    return found ? found->subKeys.Names() : std::vector<std::string>();
+}
+
+std::vector<std::string> MemoryRegistry::ValueNamesOf(Hive hive, const std::string& key) const {
+    const auto found = KeyAt(hive, key);
+    return found ? found->values.Names() : std::vector<std::string>();
+}
+
+std::string MemoryRegistry::TreeText(Hive hive, const std::string& key) const {
+    const auto found = KeyAt(hive, key);
+    return found ? found->Text({}) : std::string();
+}
+
+// ---- Registry
+
+ErrorCode MemoryRegistry::RegCreateKeyA(KeyHandle parent, const std::string& subKey,
+                                        KeyHandle& opened) {
+    if (const ErrorCode failure = journal_.Enter("RegCreateKeyA", Describe(parent, subKey))) {
+        return failure;
+    }
+    std::shared_ptr<MemoryKey> key;
+    if (const ErrorCode failure = StartOf(parent, subKey, key)) {
+        return failure;
+    }
+    const std::uint32_t needed = family_ == Family::WindowsNt ? right::CreateSubKey : 0;
+    if (const ErrorCode failure = MemoryKey::Make(key, subKey, needed)) {
+        return failure;
+    }
+    return Open(key, right::AsMuchAsAllowed, Describe(parent, subKey), opened);
+}
+
+ErrorCode MemoryRegistry::RegOpenKeyA(KeyHandle parent, const std::string& subKey,
+                                      KeyHandle& opened) {
+    if (const ErrorCode failure = journal_.Enter("RegOpenKeyA", Describe(parent, subKey))) {
+        return failure;
+    }
+    return FindAndOpen(parent, subKey, right::AsMuchAsAllowed, opened);
+}
+
+ErrorCode MemoryRegistry::RegOpenKeyExA(KeyHandle parent, const std::string& subKey,
+                                        KeyAccess access, KeyHandle& opened) {
+    if (const ErrorCode failure = journal_.Enter("RegOpenKeyExA", Describe(parent, subKey))) {
+        return failure;
+    }
+    return FindAndOpen(parent, subKey, static_cast<std::uint32_t>(access), opened);
+}
+
+ErrorCode MemoryRegistry::RegCloseKey(KeyHandle key) {
+    if (const ErrorCode failure = journal_.Enter("RegCloseKey", Describe(key))) {
+        return failure;
+    }
+    return RootOf(key) || handles_.erase(key) != 0 ? error::Success : error::InvalidHandle;
+}
+
+ErrorCode MemoryRegistry::RegDeleteKeyA(KeyHandle parent, const std::string& subKey) {
+    if (const ErrorCode failure = journal_.Enter("RegDeleteKeyA", Describe(parent, subKey))) {
+        return failure;
+    }
+    std::shared_ptr<MemoryKey> key;
+    if (const ErrorCode failure = Walk(parent, subKey, key)) {
+        return failure;
+    }
+    const bool isRefused =
+        family_ == Family::WindowsNt && (key->subKeys.Size() != 0 || key->allowed != right::All);
+    if (isRefused || key->parent == nullptr) {
+        return error::AccessDenied;
+    }
+    MemoryKey* above = key->parent;
+    key->MarkDeleted();
+    above->subKeys.Remove(key->name);
+    return error::Success;
+}
+
+ErrorCode MemoryRegistry::RegDeleteValueA(KeyHandle key, const std::string& name) {
+    if (const ErrorCode failure = journal_.Enter("RegDeleteValueA", Describe(key) + ", " + name)) {
+        return failure;
+    }
+    std::shared_ptr<MemoryKey> found;
+    if (const ErrorCode failure = KeyOf(key, right::SetValue, found)) {
+        return failure;
+    }
+    return found->values.Remove(name) ? error::Success : error::FileNotFound;
+}
+
+ErrorCode MemoryRegistry::RegEnumKeyA(KeyHandle key, std::uint32_t index, std::uint32_t capacity,
+                                      std::string& name) {
+    if (const ErrorCode failure =
+            journal_.Enter("RegEnumKeyA", Describe(key) + ", " + std::to_string(index))) {
+        return failure;
+    }
+    return EnumKey(key, index, capacity, name);
+}
+
+ErrorCode MemoryRegistry::RegEnumKeyExA(KeyHandle key, std::uint32_t index, std::uint32_t capacity,
+                                        std::string& name) {
+    if (const ErrorCode failure =
+            journal_.Enter("RegEnumKeyExA", Describe(key) + ", " + std::to_string(index))) {
+        return failure;
+    }
+    return EnumKey(key, index, capacity, name);
+}
+
+ErrorCode MemoryRegistry::RegEnumValueA(KeyHandle key, std::uint32_t index,
+                                        std::uint32_t nameCapacity, std::string& name,
+                                        std::uint32_t& type, Bytes& data, std::uint32_t& size) {
+    if (const ErrorCode failure =
+            journal_.Enter("RegEnumValueA", Describe(key) + ", " + std::to_string(index))) {
+        return failure;
+    }
+    std::shared_ptr<MemoryKey> found;
+    if (const ErrorCode failure = KeyOf(key, right::QueryValue, found)) {
+        return failure;
+    }
+    const auto value = found->values.At(index);
+    if (!value) {
+        return error::NoMoreItems;
+    }
+    if (value->name.size() >= nameCapacity) {
+        return error::MoreData;
+    }
+    type = value->type;
+    if (const ErrorCode failure = Deliver(*value, data, size)) {
+        return failure;
+    }
+    name = value->name;
+    return error::Success;
+}
+
+ErrorCode MemoryRegistry::RegQueryValueExA(KeyHandle key, const std::string& name,
+                                           std::uint32_t& type, Bytes* data, std::uint32_t& size) {
+    if (const ErrorCode failure = journal_.Enter("RegQueryValueExA", Describe(key) + ", " + name)) {
+        return failure;
+    }
+    std::shared_ptr<MemoryKey> found;
+    if (const ErrorCode failure = KeyOf(key, right::QueryValue, found)) {
+        return failure;
+    }
+    const auto value = found->values.Find(name);
+    if (!value) {
+        return error::FileNotFound;
+    }
+    type = value->type;
+    if (data != nullptr) {
+        return Deliver(*value, *data, size);
+    }
+    size = static_cast<std::uint32_t>(value->data.size());
+    return error::Success;
+}
+
+ErrorCode MemoryRegistry::RegSetValueExA(KeyHandle key, const std::string& name, std::uint32_t type,
+                                         const Bytes& data) {
+    if (const ErrorCode failure = journal_.Enter("RegSetValueExA", Describe(key) + ", " + name)) {
+        return failure;
+    }
+    std::shared_ptr<MemoryKey> found;
+    if (const ErrorCode failure = KeyOf(key, right::SetValue, found)) {
+        return failure;
+    }
+    const std::size_t longest =
+        family_ == Family::Windows95 ? longestValueName95 : longestValueNameNt;
+    if (name.size() > longest) {
+        return error::InvalidParameter;
+    }
+    found->Set(name, type, data);
+    return error::Success;
+}
+
+ErrorCode MemoryRegistry::SHCopyKeyA(KeyHandle source, const std::string& subKey,
+                                     KeyHandle destination) {
+    if (const ErrorCode failure =
+            journal_.Enter("SHCopyKeyA", Describe(source, subKey) + ", " + Describe(destination))) {
+        return failure;
+    }
+    if (!hasCopyKey_) {
+        return error::ProcNotFound;
+    }
+    std::shared_ptr<MemoryKey> from;
+    std::shared_ptr<MemoryKey> to;
+    if (const ErrorCode failure = Walk(source, subKey, from)) {
+        return failure;
+    }
+    if (const ErrorCode failure = KeyOf(destination, right::SetValue | right::CreateSubKey, to)) {
+        return failure;
+    }
+    to->CopyFrom(*from);
+    return error::Success;
+}
+
+// ---- Keys behind handles and paths
+
+std::shared_ptr<MemoryKey> MemoryRegistry::RootOf(KeyHandle handle) const {
+    if (handle == HandleOf(Hive::LocalMachine)) {
+        return localMachine_;
+    }
+    if (handle == HandleOf(Hive::CurrentUser)) {
+        return currentUser_;
+    }
+    return handle == HandleOf(Hive::ClassesRoot) ? classesRoot_ : nullptr;
+}
+
+std::shared_ptr<MemoryKey> MemoryRegistry::KeyAt(Hive hive, const std::string& path) const {
+    return MemoryKey::Find(RootOf(HandleOf(hive)), path);
+}
+
+std::shared_ptr<MemoryKey> MemoryRegistry::MakeKey(Hive hive, const std::string& path) {
+    std::shared_ptr<MemoryKey> key = RootOf(HandleOf(hive));
+    MemoryKey::Make(key, path, 0);
+    return key;
+}
+
+ErrorCode MemoryRegistry::KeyOf(KeyHandle handle, std::uint32_t wanted,
+                                std::shared_ptr<MemoryKey>& key) const {
+    if (const auto root = RootOf(handle)) {
+        key = root;
+        return error::Success;
+    }
+    const auto found = handles_.find(handle);
+    if (found == handles_.end()) {
+        return error::InvalidHandle;
+    }
+    if (found->second.key->deleted) {
+        return error::KeyDeleted;
+    }
+    if (family_ == Family::WindowsNt && (found->second.access & wanted) != wanted) {
+        return error::AccessDenied;
+    }
+    key = found->second.key;
+    return error::Success;
+}
+
+ErrorCode MemoryRegistry::StartOf(KeyHandle parent, const std::string& subKey,
+                                  std::shared_ptr<MemoryKey>& key) const {
+    if (const ErrorCode failure = KeyOf(parent, 0, key)) {
+        return failure;
+    }
+    if (subKey.starts_with('\\')) {
+        return family_ == Family::WindowsNt ? badPathName : error::FileNotFound;
+    }
+    return error::Success;
+}
+
+ErrorCode MemoryRegistry::Walk(KeyHandle parent, const std::string& subKey,
+                               std::shared_ptr<MemoryKey>& key) const {
+    std::shared_ptr<MemoryKey> start;
+    if (const ErrorCode failure = StartOf(parent, subKey, start)) {
+        return failure;
+    }
+    key = MemoryKey::Find(start, subKey);
+    return key ? error::Success : error::FileNotFound;
+}
+
+ErrorCode MemoryRegistry::FindAndOpen(KeyHandle parent, const std::string& subKey,
+                                      std::uint32_t wanted, KeyHandle& opened) {
+    std::shared_ptr<MemoryKey> key;
+    if (const ErrorCode failure = Walk(parent, subKey, key)) {
+        return failure;
+    }
+    return Open(key, wanted, Describe(parent, subKey), opened);
+}
+
+ErrorCode MemoryRegistry::Open(const std::shared_ptr<MemoryKey>& key, std::uint32_t wanted,
+                               const std::string& path, KeyHandle& opened) {
+    const bool asMuchAsAllowed = wanted == right::AsMuchAsAllowed;
+    const std::uint32_t access = asMuchAsAllowed ? key->allowed : wanted;
+    if (family_ == Family::WindowsNt && (access == 0 || (access & ~key->allowed) != 0)) {
+        return error::AccessDenied;
+    }
+    opened = nextHandle_;
+    nextHandle_ += 4;
+    handles_[opened] = {key, access, path};
+    return error::Success;
+}
+
+ErrorCode MemoryRegistry::EnumKey(KeyHandle key, std::uint32_t index, std::uint32_t capacity,
+                                  std::string& name) {
+    std::shared_ptr<MemoryKey> found;
+    if (const ErrorCode failure = KeyOf(key, right::EnumerateSubKeys, found)) {
+        return failure;
+    }
+    const auto subKey = found->subKeys.At(index);
+    if (!subKey) {
+        return error::NoMoreItems;
+    }
+    if (subKey->name.size() >= capacity) {
+        return error::MoreData;
+    }
+    name = subKey->name;
+    return error::Success;
+}
+
+std::string MemoryRegistry::Describe(KeyHandle handle, const std::string& below) const {
+    std::string path;
+    if (const auto root = RootOf(handle)) {
+        path = handle == HandleOf(Hive::ClassesRoot) ? "HKCR" : root->name;
+    } else if (const auto found = handles_.find(handle); found != handles_.end()) {
+        path = found->second.path;
+    } else {
+        path = "(no key)";
+    }
+    return below.empty() ? path : path + "\\" + below;
+}
+
+}  // namespace velkarix
