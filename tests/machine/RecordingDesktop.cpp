@@ -8,7 +8,7 @@ void RecordingDesktop::SetApplicationTitle(const std::string& title) {
 }
 
 void RecordingDesktop::Create(Form& form, PageHost* host) {
-    handles_[&form] = HandleNumber(created_++);
+    handles_[&form] = makeWindow ? makeWindow(form) : 0;
     events.push_back("create " + form.Name() + (host != nullptr ? " in " + host->Name() : ""));
 }
 

@@ -35,8 +35,8 @@ class RecordingDesktop : public Desktop {
     std::function<void()> onEventLoop;
     std::function<void()> onYield;
 
-    // The window handle that HandleOf gives for a form that is created.
-    static std::uintptr_t HandleNumber(std::size_t order) { return 0x1000 + order; }
+    // Makes the window of a form that is created, and gives its handle; without it there is none.
+    std::function<std::uintptr_t(const Form&)> makeWindow;
 
     void SetApplicationTitle(const std::string& title) override;
     void Create(Form& form, PageHost* host) override;
@@ -53,7 +53,6 @@ class RecordingDesktop : public Desktop {
 
   private:
     std::map<const Form*, std::uintptr_t> handles_;
-    std::size_t created_ = 0;
 };
 
 }  // namespace velkarix

@@ -1,0 +1,88 @@
+#include "forms/Controls.h"
+
+#include <gtest/gtest.h>
+
+namespace velkarix {
+namespace {
+
+TEST(Button, RunsItsHandlerOnAClick) {
+    int clicks = 0;
+    Button button("cmdTest", "Test", [&clicks] { ++clicks; });
+    EXPECT_TRUE(button.Raise("Click"));
+    EXPECT_EQ(clicks, 1);
+    EXPECT_FALSE(button.Raise("DblClick"));
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST(Button, IgnoresTheUserWhileDisabledButNotTheProgram) {
+    int clicks = 0;
+    Button button("cmdTest", "Test", [&clicks] { ++clicks; });
+    button.SetEnabled(false);
+    EXPECT_FALSE(button.Raise("Click"));
+    EXPECT_EQ(clicks, 0);
+    EXPECT_TRUE(button.Fire("Click"));
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST(Button, MayBeDestroyedByItsOwnHandler) {
+    std::unique_ptr<Button> button;
+    int clicks = 0;
+    button = std::make_unique<Button>("cmdTest", "Test", [&] {
+        button.reset();
+        ++clicks;
+    });
+    EXPECT_TRUE(button->Raise("Click"));
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST(LinkLabel, RunsItsHandlerOnAClick) {
+    int clicks = 0;
+    LinkLabel link("lblTest", "Test", [&clicks] { ++clicks; });
+    EXPECT_TRUE(link.Raise("Click"));
+    EXPECT_EQ(clicks, 1);
+}
+
+class OptionGroupTest : public testing::Test {
+  protected:
+    int clicks = 0;
+    OptionGroup group{"optTest", {"All", "Filtered"}, 1, [this] { ++clicks; }};
+};
+
+TEST_F(OptionGroupTest, NamesItsOptionsByTheirIndex) {
+    EXPECT_EQ(group.Option(0).Name(), "optTest(0)");
+    EXPECT_EQ(group.Option(1).Name(), "optTest(1)");
+    EXPECT_EQ(group.Option(1).Text(), "Filtered");
+}
+
+TEST_F(OptionGroupTest, HasExactlyOneChosen) {
+    EXPECT_TRUE(group.Option(1).Chosen());
+    EXPECT_TRUE(group.Option(0).Raise("Click"));
+    EXPECT_TRUE(group.Option(0).Chosen());
+    EXPECT_FALSE(group.Option(1).Chosen());
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(OptionGroupTest, RunsNoHandlerWhenTheProgramChooses) {
+    group.Choose(0);
+    EXPECT_EQ(group.Chosen(), 0);
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST(TextBox, TellsItsViewOfTheProgramsTextAlone) {
+    struct : ControlView {
+        void Changed(Aspect) override { ++times; }
+        int times = 0;
+    } view;
+    TextBox box("txtTest", "Test", {});
+    box.AttachView(&view);
+    box.TakeInput("typed");
+    EXPECT_EQ(box.Value(), "typed");
+    EXPECT_EQ(view.times, 0);
+    box.SetValue("set");
+    EXPECT_EQ(box.Value(), "set");
+    EXPECT_EQ(view.times, 1);
+    box.AttachView(nullptr);
+}
+
+}  // namespace
+}  // namespace velkarix

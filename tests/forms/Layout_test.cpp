@@ -1,0 +1,115 @@
+#include "forms/Layout.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "forms/Controls.h"
+
+namespace velkarix {
+namespace {
+
+// Sizes as a test says them; a gap of 5, groups with 10 around and 20 above.
+class TestMetrics : public LayoutMetrics {
+  public:
+    Size PreferredSize(Control& control) override { return sizes[&control]; }
+    Insets GroupInsets(Control&) override { return {10, 20, 10, 10}; }
+    int Gap() override { return 5; }
+    std::map<const Control*, Size> sizes;
+};
+
+class LayoutTest : public testing::Test {
+  protected:
+    LayoutTest() {
+        metrics.sizes[&a] = {30, 20};
+        metrics.sizes[&b] = {50, 10};
+        metrics.sizes[&c] = {10, 10};
+    }
+    std::map<const Control*, Rect> Places(const Layout& layout, const Rect& area) {
+        std::map<const Control*, Rect> places;
+        for (const Placement& each : Arrange(layout, area, metrics)) {
+            places[each.control] = each.area;
+        }
+        return places;
+    }
+
+    TestMetrics metrics;
+    Label a{"lblA", "A"};
+    Label b{"lblB", "B"};
+    Label c{"lblC", "C"};
+    Frame frame{"fmTest", "Test"};
+};
+
+TEST_F(LayoutTest, ARowIsAsWideAsAllAndAsHighAsTheHighest) {
+    EXPECT_EQ(MinimumSize(Row({Item(a), Item(b)}), metrics), (Size{85, 20}));
+    EXPECT_EQ(MinimumSize(Column({Item(a), Item(b)}), metrics), (Size{50, 35}));
+}
+
+TEST_F(LayoutTest, ARowGivesSpareRoomToThoseThatStretch) {
+    auto places = Places(Row({Item(a), Item(b, 1)}), {0, 0, 200, 20});
+    EXPECT_EQ(places[&a], (Rect{0, 0, 30, 20}));
+    EXPECT_EQ(places[&b], (Rect{35, 0, 165, 20}));
+}
+
+TEST_F(LayoutTest, SharesAreInTheProportionOfTheStretchAndLeaveNothingOver) {
+    auto places = Places(Column({Item(a, 1), Item(b, 2)}), {0, 0, 50, 135});
+    EXPECT_EQ(places[&a], (Rect{0, 0, 50, 53}));
+    EXPECT_EQ(places[&b], (Rect{0, 58, 50, 77}));
+}
+
+TEST_F(LayoutTest, AnItemThatDoesNotStretchStandsInTheMiddleOfItsRow) {
+    auto places = Places(Row({Item(a), Item(b)}), {0, 100, 200, 20});
+    EXPECT_EQ(places[&b], (Rect{35, 105, 50, 10}));
+}
+
+TEST_F(LayoutTest, ASpacePushesItsNeighboursApart) {
+    auto places = Places(Row({Item(a), Space(), Item(b)}), {0, 0, 200, 20});
+    EXPECT_EQ(places[&b].x, 150);
+}
+
+TEST_F(LayoutTest, AUniformRowMakesAllAsWideAsTheWidest) {
+    const Layout row = UniformRow({Item(a), Item(b)});
+    EXPECT_EQ(MinimumSize(row, metrics), (Size{105, 20}));
+    auto places = Places(row, {0, 0, 105, 20});
+    EXPECT_EQ(places[&a].width, 50);
+    EXPECT_EQ(places[&b].x, 55);
+}
+
+TEST_F(LayoutTest, AUniformColumnMakesAllAsHighAsTheHighest) {
+    EXPECT_EQ(MinimumSize(UniformColumn({Item(a), Item(b)}), metrics), (Size{50, 45}));
+}
+
+TEST_F(LayoutTest, AGridLinesUpItsColumnsAndWidensTheLast) {
+    const Layout grid = Grid(2, {Item(c), Item(a), Item(b), Item(c)});
+    EXPECT_EQ(MinimumSize(grid, metrics), (Size{85, 35}));
+    auto places = Places(Grid(2, {Item(a), Item(b), Item(c), Item(frame)}), {7, 3, 200, 100});
+    EXPECT_EQ(places[&a], (Rect{7, 3, 30, 20}));
+    EXPECT_EQ(places[&b], (Rect{42, 8, 165, 10}));
+    EXPECT_EQ(places[&c].y, 28);
+    EXPECT_EQ(places[&c].x, 7);
+}
+
+TEST_F(LayoutTest, AGroupStandsAroundItsChildAndBeforeItInTheList) {
+    const Layout group = Group(frame, Item(a, 1));
+    EXPECT_EQ(MinimumSize(group, metrics), (Size{50, 50}));
+    const auto placements = Arrange(group, {0, 0, 100, 100}, metrics);
+    ASSERT_EQ(placements.size(), 2u);
+    EXPECT_EQ(placements[0].control, &frame);
+    EXPECT_EQ(placements[1].area, (Rect{10, 20, 80, 70}));
+}
+
+TEST_F(LayoutTest, TooLittleRoomNeverMakesANegativeSize) {
+    for (const Placement& each :
+         Arrange(Group(frame, Row({Item(a, 1), Item(b)})), {0, 0, 10, 10}, metrics)) {
+        EXPECT_GE(each.area.width, 0);
+        EXPECT_GE(each.area.height, 0);
+    }
+}
+
+TEST_F(LayoutTest, AnEmptyRowTakesNoRoom) {
+    EXPECT_EQ(MinimumSize(Row({}), metrics), (Size{0, 0}));
+    EXPECT_TRUE(Arrange(Row({}), {0, 0, 10, 10}, metrics).empty());
+}
+
+}  // namespace
+}  // namespace velkarix

@@ -1,0 +1,176 @@
+#include "forms/ListView.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace velkarix {
+namespace {
+
+// A view that writes down what it hears.
+class HearingView : public ControlView {
+  public:
+    void Changed(Aspect aspect) override { heard.push_back(aspect); }
+    std::vector<Aspect> heard;
+};
+
+class ListViewTest : public testing::Test {
+  protected:
+    std::string Order() {
+        std::string names;
+        for (std::size_t i = 0; i < list.RowCount(); ++i) names += list.Row(i).Text(0) + " ";
+        return names;
+    }
+    void AddThree() {
+        list.Add("B", "beta", 1).SetText(1, "2");
+        list.Add("A", "Alpha", 1).SetText(1, "2");
+        list.Add("C", "gamma", 1).SetText(1, "1");
+    }
+
+    std::vector<std::string> calls;
+    ListView list{"lstvTest",
+                  "Test",
+                  {"Name", "Number"},
+                  {[this](ListRow& row) { calls.push_back("item " + row.Text(0)); },
+                   [this](int column) { calls.push_back("column " + std::to_string(column)); },
+                   [this] { calls.push_back("double"); },
+                   [this](MouseButton button) {
+                       calls.push_back(button == MouseButton::Right ? "right" : "left");
+                   }}};
+};
+
+TEST_F(ListViewTest, KeepsTheOrderThatRowsCameInUntilItIsSorted) {
+    AddThree();
+    EXPECT_EQ(Order(), "beta Alpha gamma ");
+}
+
+TEST_F(ListViewTest, SortsByTextWithoutRegardToCase) {
+    AddThree();
+    list.Sort(0, SortOrder::Ascending);
+    EXPECT_EQ(Order(), "Alpha beta gamma ");
+    list.Sort(0, SortOrder::Descending);
+    EXPECT_EQ(Order(), "gamma beta Alpha ");
+}
+
+TEST_F(ListViewTest, SortsNumbersAsTextToo) {
+    list.Add("A", "a", 1).SetText(1, "10.0");
+    list.Add("B", "b", 1).SetText(1, "9.0");
+    list.Sort(1, SortOrder::Ascending);
+    EXPECT_EQ(Order(), "a b ");
+}
+
+TEST_F(ListViewTest, KeepsTheOrderOfRowsThatCompareEqual) {
+    AddThree();
+    list.Sort(1, SortOrder::Ascending);
+    EXPECT_EQ(Order(), "gamma beta Alpha ");
+}
+
+TEST_F(ListViewTest, PutsANewRowAtItsPlaceInASortedList) {
+    AddThree();
+    list.Sort(0, SortOrder::Ascending);
+    EXPECT_EQ(Order(), "Alpha beta gamma ");
+    list.Add("D", "delta", 1);
+    EXPECT_EQ(Order(), "Alpha beta delta gamma ");
+}
+
+TEST_F(ListViewTest, PutsARowWhoseSortedTextChangesAtItsNewPlace) {
+    AddThree();
+    list.Sort(1, SortOrder::Ascending);
+    EXPECT_EQ(Order(), "gamma beta Alpha ");
+    list.Row(0).SetText(1, "3");
+    EXPECT_EQ(Order(), "beta Alpha gamma ");
+}
+
+TEST_F(ListViewTest, StaysSortedAfterItIsClearedAndFilledAgain) {
+    AddThree();
+    list.Sort(0, SortOrder::Descending);
+    list.Clear();
+    AddThree();
+    EXPECT_EQ(Order(), "gamma beta Alpha ");
+}
+
+TEST_F(ListViewTest, KeepsTheSelectedRowWhenItSorts) {
+    AddThree();
+    list.Select(&list.Row(1));
+    list.Sort(0, SortOrder::Descending);
+    ASSERT_NE(list.SelectedRow(), nullptr);
+    EXPECT_EQ(list.SelectedRow()->Text(0), "Alpha");
+    EXPECT_EQ(list.PositionOf(*list.SelectedRow()), 2u);
+}
+
+TEST_F(ListViewTest, LosesTheSelectionWithTheSelectedRowAlone) {
+    AddThree();
+    list.Select(&list.Row(1));
+    list.Remove(list.Row(0));
+    ASSERT_NE(list.SelectedRow(), nullptr);
+    EXPECT_EQ(list.PositionOf(*list.SelectedRow()), 0u);
+    list.Remove(list.Row(0));
+    EXPECT_EQ(list.SelectedRow(), nullptr);
+    EXPECT_EQ(Order(), "gamma ");
+}
+
+TEST_F(ListViewTest, HasNoSelectionOnceCleared) {
+    AddThree();
+    list.Select(&list.Row(0));
+    list.Clear();
+    EXPECT_EQ(list.SelectedRow(), nullptr);
+    EXPECT_EQ(list.RowCount(), 0u);
+}
+
+TEST_F(ListViewTest, RunsHandlersForGesturesOfTheUser) {
+    AddThree();
+    list.UserSelect(&list.Row(1));
+    list.UserColumnClick(2);
+    list.UserMouseUp(MouseButton::Right);
+    EXPECT_TRUE(list.Raise("DblClick"));
+    EXPECT_EQ(calls, (std::vector<std::string>{"item Alpha", "column 2", "right", "double"}));
+}
+
+TEST_F(ListViewTest, RunsNoHandlerForAChangeByTheProgram) {
+    AddThree();
+    list.Select(&list.Row(0));
+    list.Row(0).SetChecked(true);
+    list.Sort(0, SortOrder::Descending);
+    EXPECT_TRUE(calls.empty());
+}
+
+TEST_F(ListViewTest, RunsNoHandlerForAClickBesideTheRows) {
+    AddThree();
+    list.UserSelect(&list.Row(0));
+    calls.clear();
+    list.UserSelect(nullptr);
+    EXPECT_EQ(list.SelectedRow(), nullptr);
+    EXPECT_TRUE(calls.empty());
+}
+
+TEST_F(ListViewTest, TellsItsViewOfChangesByTheProgramAlone) {
+    AddThree();
+    HearingView view;
+    list.AttachView(&view);
+    list.UserSelect(&list.Row(0));
+    list.UserCheck(list.Row(0), true);
+    EXPECT_TRUE(view.heard.empty());
+    EXPECT_TRUE(list.Row(0).Checked());
+    list.Row(0).SetBold(true);
+    list.Select(&list.Row(1));
+    list.Clear();
+    EXPECT_EQ(view.heard, (std::vector<Aspect>{Aspect::RowState, Aspect::Selection, Aspect::Rows}));
+    list.AttachView(nullptr);
+}
+
+TEST_F(ListViewTest, DoesNotDoubleClickWhileDisabled) {
+    list.SetEnabled(false);
+    EXPECT_FALSE(list.Raise("DblClick"));
+    EXPECT_TRUE(calls.empty());
+}
+
+TEST_F(ListViewTest, HoldsFiftyThousandRowsInOrder) {
+    for (int i = 0; i < 50000; ++i) list.Add("", std::to_string(i * 7919 % 50000), 1);
+    list.Sort(0, SortOrder::Ascending);
+    EXPECT_EQ(list.Row(0).Text(0), "0");
+    EXPECT_EQ(list.Row(49999).Text(0), "9999");
+}
+
+}  // namespace
+}  // namespace velkarix
