@@ -1,0 +1,5 @@
+set(triplet i686-w64-mingw32)
+set(CMAKE_SYSTEM_PROCESSOR i686)
+set(CMAKE_CXX_FLAGS_INIT "-march=pentium -mtune=generic")
+set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../tools/wine-run)
+include(${CMAKE_CURRENT_LIST_DIR}/toolchain-windows.cmake)
