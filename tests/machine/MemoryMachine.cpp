@@ -2,8 +2,8 @@
 
 namespace velkarix {
 
-MemoryMachine::MemoryMachine(NamedSystem system) {
-    SetSystem(system);
+MemoryMachine::MemoryMachine(NamedSystem named) {
+    SetSystem(named);
 }
 
 Machine MemoryMachine::Parts() {

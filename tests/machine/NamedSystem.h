@@ -23,7 +23,7 @@ enum class NamedSystem {
 };
 
 // To run a test on each of them.
-constexpr std::array allNamedSystems = {
+inline constexpr std::array allNamedSystems = {
     NamedSystem::Windows95,         NamedSystem::Windows98,    NamedSystem::Windows98SecondEdition,
     NamedSystem::WindowsMillennium, NamedSystem::WindowsNt351, NamedSystem::WindowsNt40,
     NamedSystem::Windows2000,       NamedSystem::WindowsXp,    NamedSystem::WindowsServer2003,

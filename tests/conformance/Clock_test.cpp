@@ -1,0 +1,78 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <string>
+
+#include "tests/conformance/Home.h"
+
+namespace velkarix {
+
+class ClockConformance : public Conformance {
+  protected:
+    Clock& clock_ = machine_.clock;
+};
+
+INSTANTIATE_TEST_SUITE_P(Home, ClockConformance, testing::ValuesIn(FamiliesOfHome()), NameOfFamily);
+
+TEST_P(ClockConformance, FileTimesBeginIn1601) {
+    EXPECT_EQ(clock_.FileTimeToSystemTime(0), (SystemTime{1601, 1, 1, 1, 0, 0, 0, 0}));
+}
+
+TEST_P(ClockConformance, AFileTimeIsADateAndATimeOfDay) {
+    // The first second of 1970, and a leap day with all fields in use.
+    EXPECT_EQ(clock_.FileTimeToSystemTime(116444736000000000),
+              (SystemTime{1970, 1, 4, 1, 0, 0, 0, 0}));
+    EXPECT_EQ(clock_.FileTimeToSystemTime(127225727078900000),
+              (SystemTime{2004, 2, 0, 29, 23, 58, 27, 890}));
+}
+
+TEST_P(ClockConformance, TimesWithTheTopBitAreOutOfRange) {
+    EXPECT_EQ(clock_.FileTimeToSystemTime(0x8000000000000000), std::nullopt);
+    EXPECT_EQ(clock_.FileTimeToSystemTime(0xFFFFFFFFFFFFFFFF), std::nullopt);
+}
+
+TEST_P(ClockConformance, LocalTimeIsWholeMinutesAwayFromUtc) {
+    constexpr FileTime time = 127225727078900000;
+    constexpr std::int64_t minute = 600'000'000;
+    const auto local = clock_.FileTimeToLocalFileTime(time);
+    ASSERT_TRUE(local.has_value());
+    const auto distance = static_cast<std::int64_t>(*local - time);
+    EXPECT_EQ(distance % minute, 0);
+    EXPECT_LE(std::abs(distance), 14 * 60 * minute);
+}
+
+TEST_P(ClockConformance, ThePresentIsAFullTime) {
+    const SystemTime now = clock_.GetLocalTime();
+    EXPECT_GE(now.year, 2004);
+    EXPECT_TRUE(now.month >= 1 && now.month <= 12);
+    EXPECT_TRUE(now.day >= 1 && now.day <= 31);
+    EXPECT_TRUE(now.dayOfWeek >= 0 && now.dayOfWeek <= 6);
+}
+
+TEST_P(ClockConformance, DatesAreReadAsMonthDayAndYear) {
+    EXPECT_EQ(clock_.VarDateFromStr("12/30/1899"), 0.0);
+    EXPECT_EQ(clock_.VarDateFromStr("6/1/2004"), 38139.0);
+    EXPECT_EQ(clock_.VarDateFromStr("06/01/2004"), 38139.0);
+    EXPECT_EQ(clock_.VarDateFromStr("2004-06-01"), 38139.0);
+}
+
+TEST_P(ClockConformance, TwoDigitsMeanAYearOfTheLastOrThisCentury) {
+    EXPECT_EQ(clock_.VarDateFromStr("6/1/04"), 38139.0);
+    EXPECT_EQ(clock_.VarDateFromStr("6/1/99"), 36312.0);
+}
+
+TEST_P(ClockConformance, ATimeOfDayIsTheFraction) {
+    EXPECT_EQ(clock_.VarDateFromStr("6/1/2004 12:00:00"), 38139.5);
+    EXPECT_EQ(clock_.VarDateFromStr("6/1/2004 6:00 PM"), 38139.75);
+    EXPECT_EQ(clock_.VarDateFromStr("6/1/2004 12:00 AM"), 38139.0);
+    EXPECT_EQ(clock_.VarDateFromStr("2004-06-01 18:00"), 38139.75);
+}
+
+TEST_P(ClockConformance, OtherTextsAreNoDates) {
+    for (const char* text :
+         {"", "***", "yesterday", "2/30/2004", "13/32/2004", "6/1/2004 25:00", "6/1/2004 noon"}) {
+        EXPECT_EQ(clock_.VarDateFromStr(text), std::nullopt) << text;
+    }
+}
+
+}  // namespace velkarix
