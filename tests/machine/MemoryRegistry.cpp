@@ -38,91 +38,6 @@ ErrorCode Deliver(const MemoryValue& value, Bytes& buffer, std::uint32_t& size) 
 
 }  // namespace
 
-MemoryRegistry::MemoryRegistry(CallJournal& journal)
-    : journal_(journal),
-      localMachine_(std::make_shared<MemoryKey>("HKLM")),
-      currentUser_(std::make_shared<MemoryKey>("HKCU")),
-      // The classes are a part of the machine's hive under a second name.
-      classesRoot_(localMachine_) {
-    MemoryKey::Make(classesRoot_, "SOFTWARE\\Classes", right::CreateSubKey);
-}
-
-// ---- Set-up and looking
-
-void MemoryRegistry::AddKey(Hive hive, const std::string& key) {
-    MakeKey(hive, key);
-}
-
-void MemoryRegistry::SetValue(Hive hive, const std::string& key, const std::string& name,
-                              const std::string& text) {
-    Bytes data(text.begin(), text.end());
-    data.push_back(0);
-    SetRaw(hive, key, name, registryType::Sz, std::move(data));
-}
-
-void MemoryRegistry::SetDword(Hive hive, const std::string& key, const std::string& name,
-                              std::uint32_t value) {
-    Bytes data;
-    for (int shift = 0; shift < 32; shift += 8) {
-        data.push_back(static_cast<std::uint8_t>(value >> shift));
-    }
-    SetRaw(hive, key, name, registryType::Dword, std::move(data));
-}
-
-void MemoryRegistry::SetRaw(Hive hive, const std::string& key, const std::string& name,
-                            std::uint32_t type, Bytes data) {
-    MakeKey(hive, key)->Set(name, type, std::move(data));
-}
-
-void MemoryRegistry::RemoveKey(Hive hive, const std::string& key) {
-    if (const auto found = KeyAt(hive, key); found && found->parent != nullptr) {
-        MemoryKey* parent = found->parent;
-        found->MarkDeleted();
-        parent->subKeys.Remove(found->name);
-    }
-}
-
-void MemoryRegistry::Restrict(Hive hive, const std::string& key, std::optional<KeyAccess> allowed) {
-    MakeKey(hive, key)->Allow(allowed ? static_cast<std::uint32_t>(*allowed) : 0);
-}
-
-bool MemoryRegistry::HasKey(Hive hive, const std::string& key) const {
-    return KeyAt(hive, key) != nullptr;
-}
-
-std::optional<MemoryValue> MemoryRegistry::ValueAt(Hive hive, const std::string& key,
-                                                   const std::string& name) const {
-    const auto found = KeyAt(hive, key);
-    const auto value = found ? found->values.Find(name) : nullptr;
-    return value ? std::optional(*value) : std::nullopt;
-}
-
-std::optional<std::string> MemoryRegistry::TextAt(Hive hive, const std::string& key,
-                                                  const std::string& name) const {
-    const auto value = ValueAt(hive, key, name);
-    if (!value) {
-        return std::nullopt;
-    }
-    return std::string(value->data.begin(), std::find(value->data.begin(), value->data.end(), 0));
-}
-
-std::vector<std::string> MemoryRegistry::SubKeysOf(Hive hive, const std::string& key) const {
-    const auto found = KeyAt(hive, key);
-    return found ? found->subKeys.Names() : std::vector<std::string>();
-}
-
-std::vector<std::string> MemoryRegistry::ValueNamesOf(Hive hive, const std::string& key) const {
-    const auto found = KeyAt(hive, key);
-    return found ? found->values.Names() : std::vector<std::string>();
-}
-
-std::string MemoryRegistry::TreeText(Hive hive, const std::string& key) const {
-    const auto found = KeyAt(hive, key);
-    return found ? found->Text({}) : std::string();
-}
-
-// ---- Registry
-
 ErrorCode MemoryRegistry::RegCreateKeyA(KeyHandle parent, const std::string& subKey,
                                         KeyHandle& opened) {
     if (const ErrorCode failure = journal_.Enter("RegCreateKeyA", Describe(parent, subKey))) {
@@ -297,26 +212,6 @@ ErrorCode MemoryRegistry::SHCopyKeyA(KeyHandle source, const std::string& subKey
 }
 
 // ---- Keys behind handles and paths
-
-std::shared_ptr<MemoryKey> MemoryRegistry::RootOf(KeyHandle handle) const {
-    if (handle == HandleOf(Hive::LocalMachine)) {
-        return localMachine_;
-    }
-    if (handle == HandleOf(Hive::CurrentUser)) {
-        return currentUser_;
-    }
-    return handle == HandleOf(Hive::ClassesRoot) ? classesRoot_ : nullptr;
-}
-
-std::shared_ptr<MemoryKey> MemoryRegistry::KeyAt(Hive hive, const std::string& path) const {
-    return MemoryKey::Find(RootOf(HandleOf(hive)), path);
-}
-
-std::shared_ptr<MemoryKey> MemoryRegistry::MakeKey(Hive hive, const std::string& path) {
-    std::shared_ptr<MemoryKey> key = RootOf(HandleOf(hive));
-    MemoryKey::Make(key, path, 0);
-    return key;
-}
 
 ErrorCode MemoryRegistry::KeyOf(KeyHandle handle, std::uint32_t wanted,
                                 std::shared_ptr<MemoryKey>& key) const {

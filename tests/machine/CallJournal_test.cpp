@@ -1,0 +1,47 @@
+#include "tests/machine/CallJournal.h"
+
+#include <gtest/gtest.h>
+
+namespace velkarix {
+
+TEST(CallJournal, KeepsCallsInTheirOrder) {
+    CallJournal journal;
+    journal.Enter("RegCreateKeyA", "HKCU\\Key");
+    journal.Enter("RegCloseKey");
+    EXPECT_EQ(journal.Calls(),
+              (std::vector<Call>{{"RegCreateKeyA", "HKCU\\Key"}, {"RegCloseKey", ""}}));
+    EXPECT_EQ(journal.Names(), (std::vector<std::string>{"RegCreateKeyA", "RegCloseKey"}));
+    EXPECT_EQ(journal.ArgumentsOf("RegCreateKeyA"), std::vector<std::string>{"HKCU\\Key"});
+    EXPECT_EQ(journal.CountOf("RegCloseKey"), 1u);
+    journal.Clear();
+    EXPECT_EQ(journal.Calls(), std::vector<Call>());
+}
+
+TEST(CallJournal, TheNextCallFailsOnceForEachTimeItWasAsked) {
+    CallJournal journal;
+    journal.FailNext("A", error::AccessDenied);
+    journal.FailNext("A", error::MoreData);
+    EXPECT_EQ(journal.Enter("B"), error::Success);
+    EXPECT_EQ(journal.Enter("A"), error::AccessDenied);
+    EXPECT_EQ(journal.Enter("A"), error::MoreData);
+    EXPECT_EQ(journal.Enter("A"), error::Success);
+}
+
+TEST(CallJournal, ALastingFailureEndsWhenSuccessIsAskedFor) {
+    CallJournal journal;
+    journal.FailAlways("A", error::AccessDenied);
+    EXPECT_EQ(journal.Enter("A"), error::AccessDenied);
+    journal.Clear();
+    EXPECT_EQ(journal.Enter("A"), error::AccessDenied);
+    journal.FailAlways("A", error::Success);
+    EXPECT_EQ(journal.Enter("A"), error::Success);
+}
+
+TEST(CallJournal, AFailedCallIsWrittenDownToo) {
+    CallJournal journal;
+    journal.FailNext("A");
+    EXPECT_NE(journal.Enter("A"), error::Success);
+    EXPECT_EQ(journal.CountOf("A"), 1u);
+}
+
+}  // namespace velkarix

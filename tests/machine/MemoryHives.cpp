@@ -1,0 +1,108 @@
+#include "tests/machine/MemoryHives.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace velkarix {
+
+MemoryHives::MemoryHives()
+    : localMachine_(std::make_shared<MemoryKey>("HKLM")),
+      currentUser_(std::make_shared<MemoryKey>("HKCU")),
+      // The classes are a part of the machine's hive under a second name.
+      classesRoot_(localMachine_) {
+    MemoryKey::Make(classesRoot_, "SOFTWARE\\Classes", 0);
+}
+
+void MemoryHives::AddKey(Hive hive, const std::string& key) {
+    MakeKey(hive, key);
+}
+
+void MemoryHives::SetValue(Hive hive, const std::string& key, const std::string& name,
+                           const std::string& text) {
+    Bytes data(text.begin(), text.end());
+    data.push_back(0);
+    SetRaw(hive, key, name, registryType::Sz, std::move(data));
+}
+
+void MemoryHives::SetDword(Hive hive, const std::string& key, const std::string& name,
+                           std::uint32_t value) {
+    Bytes data;
+    for (int shift = 0; shift < 32; shift += 8) {
+        data.push_back(static_cast<std::uint8_t>(value >> shift));
+    }
+    SetRaw(hive, key, name, registryType::Dword, std::move(data));
+}
+
+void MemoryHives::SetRaw(Hive hive, const std::string& key, const std::string& name,
+                         std::uint32_t type, Bytes data) {
+    MakeKey(hive, key)->Set(name, type, std::move(data));
+}
+
+void MemoryHives::RemoveKey(Hive hive, const std::string& key) {
+    if (const auto found = KeyAt(hive, key); found && found->parent != nullptr) {
+        MemoryKey* parent = found->parent;
+        found->MarkDeleted();
+        parent->subKeys.Remove(found->name);
+    }
+}
+
+void MemoryHives::Restrict(Hive hive, const std::string& key, std::optional<KeyAccess> allowed) {
+    MakeKey(hive, key)->Allow(allowed ? static_cast<std::uint32_t>(*allowed) : 0);
+}
+
+bool MemoryHives::HasKey(Hive hive, const std::string& key) const {
+    return KeyAt(hive, key) != nullptr;
+}
+
+std::optional<MemoryValue> MemoryHives::ValueAt(Hive hive, const std::string& key,
+                                                const std::string& name) const {
+    const auto found = KeyAt(hive, key);
+    const auto value = found ? found->values.Find(name) : nullptr;
+    return value ? std::optional(*value) : std::nullopt;
+}
+
+std::optional<std::string> MemoryHives::TextAt(Hive hive, const std::string& key,
+                                               const std::string& name) const {
+    const auto value = ValueAt(hive, key, name);
+    if (!value) {
+        return std::nullopt;
+    }
+    return std::string(value->data.begin(), std::find(value->data.begin(), value->data.end(), 0));
+}
+
+std::vector<std::string> MemoryHives::SubKeysOf(Hive hive, const std::string& key) const {
+    const auto found = KeyAt(hive, key);
+    return found ? found->subKeys.Names() : std::vector<std::string>();
+}
+
+std::vector<std::string> MemoryHives::ValueNamesOf(Hive hive, const std::string& key) const {
+    const auto found = KeyAt(hive, key);
+    return found ? found->values.Names() : std::vector<std::string>();
+}
+
+std::string MemoryHives::TreeText(Hive hive, const std::string& key) const {
+    const auto found = KeyAt(hive, key);
+    return found ? found->Text({}) : std::string();
+}
+
+std::shared_ptr<MemoryKey> MemoryHives::RootOf(KeyHandle handle) const {
+    if (handle == Registry::HandleOf(Hive::LocalMachine)) {
+        return localMachine_;
+    }
+    if (handle == Registry::HandleOf(Hive::CurrentUser)) {
+        return currentUser_;
+    }
+    return handle == Registry::HandleOf(Hive::ClassesRoot) ? classesRoot_ : nullptr;
+}
+
+std::shared_ptr<MemoryKey> MemoryHives::KeyAt(Hive hive, const std::string& path) const {
+    return MemoryKey::Find(RootOf(Registry::HandleOf(hive)), path);
+}
+
+std::shared_ptr<MemoryKey> MemoryHives::MakeKey(Hive hive, const std::string& path) {
+    std::shared_ptr<MemoryKey> key = RootOf(Registry::HandleOf(hive));
+    MemoryKey::Make(key, path, 0);
+    return key;
+}
+
+}  // namespace velkarix
