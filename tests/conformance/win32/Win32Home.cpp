@@ -2,6 +2,7 @@
 // empty, and files, windows and the like made by direct calls.
 #include <windows.h>
 
+#include <array>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -70,10 +71,10 @@ std::string RedIcon() {
     header.biSizeImage = pixelBytes + maskBytes;
 
     std::string bytes;
-    for (const std::uint16_t field : {0, 1, 1}) {  // reserved, an icon, one of them
+    for (const auto field : std::to_array<std::uint16_t>({0, 1, 1})) {  // reserved, an icon, one of them
         Append(bytes, field);
     }
-    for (const std::uint8_t field : {iconSize, iconSize, 0, 0}) {
+    for (const auto field : std::to_array<std::uint8_t>({iconSize, iconSize, 0, 0})) {
         Append(bytes, field);
     }
     Append(bytes, header.biPlanes);
