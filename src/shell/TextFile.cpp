@@ -1,0 +1,52 @@
+#include "shell/TextFile.h"
+
+#include <cstdint>
+#include <span>
+
+#include "base/Bytes.h"
+
+namespace velkarix {
+
+std::optional<std::string> ReadTextFile(FileSystem& files, const std::string& path) {
+    constexpr std::size_t BlockSize = 64 * 1024;
+
+    FileHandle file = 0;
+    if (files.CreateFileA(path, FileUse::Read, file) != error::Success) return std::nullopt;
+    std::string text;
+    Bytes block(BlockSize);
+    std::uint32_t read = 0;
+    ErrorCode result = error::Success;
+    do {
+        result = files.ReadFile(file, block, read);
+        if (result == error::Success) text.append(block.begin(), block.begin() + read);
+    } while (result == error::Success && read > 0);
+    files.CloseFile(file);
+    if (result != error::Success) return std::nullopt;
+    return text;
+}
+
+ErrorCode WriteTextFile(FileSystem& files, const std::string& path, std::string_view text) {
+    FileHandle file = 0;
+    const ErrorCode opened = files.CreateFileA(path, FileUse::Replace, file);
+    if (opened != error::Success) return opened;
+    std::uint32_t written = 0;
+    const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
+    const ErrorCode result = files.WriteFile(file, std::span(bytes, text.size()), written);
+    files.CloseFile(file);
+    if (result != error::Success) return result;
+    return written == text.size() ? error::Success : error::HandleDiskFull;
+}
+
+std::vector<std::string> SplitLines(std::string_view text) {
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+        const std::size_t end = text.find_first_of("\r\n");
+        lines.emplace_back(text.substr(0, end));
+        if (end == std::string_view::npos) break;
+        const bool pair = text.substr(end, 2) == "\r\n";
+        text.remove_prefix(end + (pair ? 2 : 1));
+    }
+    return lines;
+}
+
+}  // namespace velkarix

@@ -1,0 +1,22 @@
+// Small text files, read and written whole.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/FileSystem.h"
+
+namespace velkarix {
+
+// The file's bytes; nothing when it can't be opened or read to its end.
+std::optional<std::string> ReadTextFile(FileSystem& files, const std::string& path);
+// Replaces the file. The code of what failed, or Success; a disk that takes less than all of the
+// text is HandleDiskFull.
+ErrorCode WriteTextFile(FileSystem& files, const std::string& path, std::string_view text);
+// The lines of a text without their ends, which are CR LF, CR or LF. A last line without an end
+// counts, an empty text has none.
+std::vector<std::string> SplitLines(std::string_view text);
+
+}  // namespace velkarix
