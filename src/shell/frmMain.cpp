@@ -1,0 +1,177 @@
+#include "shell/frmMain.h"
+
+#include <cmath>
+#include <limits>
+#include <optional>
+
+#include "shell/ShellOpen.h"
+#include "shell/Skin.h"
+#include "shell/Updater.h"
+#include "shell/clsDisableMaximize.h"
+#include "shell/clsSysInfo.h"
+
+namespace velkarix {
+
+namespace {
+
+struct PageEntry {
+    const char* button;
+    const char* caption;
+    const char* page;
+    const char* skinElement;
+    const char* focusTarget;  // the control that gets the focus after a switch; null: none
+    Key key;                  // together with Ctrl
+};
+
+// In the order of the strip.
+const PageEntry Pages[] = {
+    {"cmdProcess", "Processes", "frmProcess", "Process", "lstvProcess", Key::Digit1},
+    {"cmdIE", "Internet Explorer", "frmIE", "IE", "lstvBHO", Key::Digit2},
+    {"cmdStartup", "Startup", "frmStartup", "Startup", "tvwStartup", Key::Digit3},
+    {"cmdAddremove", "Add/Remove", "frmAddRemove", "AddRemove", "lstvAddRemove", Key::Digit4},
+    {"cmdOptions", "Options", "frmOptions", "Options", nullptr, Key::Digit5},
+    {"cmdUtilities", "Utilities", "frmUtilities", "Utilities", nullptr, Key::Digit6},
+};
+
+constexpr int UpdateDelay = 200;  // milliseconds; the first page is drawn by then
+constexpr int TypeMismatchFault = 13;
+constexpr int OverflowFault = 6;
+
+}  // namespace
+
+frmMain::frmMain(Application& application)
+    : Form("frmMain", ApplicationTitle, FormKind::Main),
+      application_(application),
+      picTop_("picTop", "", Panel::Look::Banner),
+      picProduct_("picProduct", ApplicationTitle, "Application", 48),
+      lblProduct_("lblProduct", ApplicationTitle, Label::Look::Title),
+      lblHelp_("lblHelp", "Help Topics", [this] { lblHelp_Click(); }),
+      lblAbout_("lblAbout", "About", [this] { lblAbout_Click(); }),
+      picLeft_("picLeft", "", Panel::Look::Strip),
+      picPage_("picPage", ""),
+      tmrUpdate_("tmrUpdate", UpdateDelay, [this] { tmrUpdate_Timer(); }) {
+    std::vector<Control*> controls = {&picTop_, &picProduct_, &lblProduct_, &picLeft_};
+    std::vector<Accelerator> keys;
+    Layout strip = UniformColumn({});
+    for (std::size_t i = 0; i < std::size(Pages); ++i) {
+        const PageEntry& entry = Pages[i];
+        pageButtons_.push_back(std::make_unique<Button>(
+            entry.button, entry.caption, [this, i] { PageButton_Click(i); },
+            Button::Look::Picture));
+        controls.push_back(pageButtons_.back().get());
+        strip.children.push_back(Item(*pageButtons_.back()));
+        keys.push_back({entry.key, true, std::string(entry.button) + "_Click"});
+    }
+    controls.insert(controls.end(), {&picPage_, &lblHelp_, &lblAbout_});
+    SetControls(std::move(controls));
+    SetAccelerators(std::move(keys));
+    SetTimers({&tmrUpdate_});
+    SetLayout(Column({Group(picTop_, Row({Item(picProduct_), Item(lblProduct_), Space(),
+                                          Item(lblHelp_), Item(lblAbout_)})),
+                      Row({Group(picLeft_, std::move(strip)), Item(picPage_, 1)}, 1)}));
+}
+
+void frmMain::Form_Load() {
+    SetCaption(std::string(ApplicationTitle) + " Version: " + ApplicationVersion());
+    application_.DisabledRoot = std::string("Software\\") + ApplicationTitle + "\\Disabled\\";
+    clsDisableMaximize(application_.machine.windows)
+        .DisableMaxButton(application_.desktop.HandleOf(*this));
+    ApplySkin();
+    if (!ReadAppearance()) return;
+    GetWindowsName();
+    LoadDefinitionLists();
+    activePage_ = Pages[0].page;
+    MarkActivePage();
+    application_.forms.Show(activePage_, &picPage_);
+    tmrUpdate_.SetEnabled(true);
+}
+
+void frmMain::ApplySkin() {
+    SkinWindow(*this);
+    for (std::size_t i = 0; i < std::size(Pages); ++i) {
+        SkinControl(*pageButtons_[i], Pages[i].skinElement);
+    }
+}
+
+bool frmMain::ReadAppearance() {
+    Settings& settings = application_.settings;
+    // Alone among the numbers this one is converted strictly, and nothing handles its fault.
+    const std::optional<double> bold = StrictNumber(settings.ReadIni("Main", "FontBold", "1"));
+    if (!bold) {
+        application_.EndWithFault(TypeMismatchFault, "Type mismatch");
+        return false;
+    }
+    const double rounded = std::nearbyint(*bold);
+    if (std::abs(rounded) > std::numeric_limits<std::int16_t>::max()) {
+        application_.EndWithFault(OverflowFault, "Overflow");
+        return false;
+    }
+    Appearance& appearance = application_.appearance;
+    appearance.FontBold = static_cast<std::int16_t>(rounded);
+    const auto color = [&settings](const char* key, const char* fallback) {
+        return static_cast<Color>(RoundedNumber(settings.ReadIni("Main", key, fallback)));
+    };
+    appearance.SusColor = color("SusColor", "255");
+    appearance.DisColor = color("DisColor", "8421504");
+    appearance.SusDisColor = color("SusDisColor", "64");
+    return true;
+}
+
+void frmMain::GetWindowsName() {
+    clsSysInfo facts(application_.machine.system, application_.registry);
+    application_.WindowsName = facts.sysInfo().windowsName;
+}
+
+void frmMain::LoadDefinitionLists() {
+    const std::string folder = application_.settings.InstallFolder();
+    FileSystem& files = application_.machine.files;
+    LoadDefinitionList(files, application_.SusCLSIDList, folder + "\\SusCLSID.vkl");
+    LoadDefinitionList(files, application_.SystemProcessList, folder + "\\SystemProcess.vkl");
+    LoadDefinitionList(files, application_.SusProcessList, folder + "\\SusProcess.vkl");
+    LoadDefinitionList(files, application_.SusInstallList, folder + "\\SusInstall.vkl");
+}
+
+void frmMain::PageButton_Click(std::size_t button) {
+    const PageEntry& entry = Pages[button];
+    if (!ShowPage(entry.page) || entry.focusTarget == nullptr) return;
+    const Form* page = application_.forms.Loaded(entry.page);
+    Control* target = page == nullptr ? nullptr : page->Find(entry.focusTarget);
+    if (target != nullptr) application_.desktop.Focus(*target);
+}
+
+bool frmMain::ShowPage(const std::string& page) {
+    if (activePage_ == page) return false;
+    application_.forms.Unload(activePage_);
+    activePage_ = page;
+    MarkActivePage();
+    application_.forms.Show(page, &picPage_);
+    return true;
+}
+
+void frmMain::MarkActivePage() {
+    for (std::size_t i = 0; i < std::size(Pages); ++i) {
+        pageButtons_[i]->SetPressed(activePage_ == Pages[i].page);
+    }
+}
+
+void frmMain::lblHelp_Click() {
+    ShellOpen(application_.machine.shell,
+              application_.settings.InstallFolder() + "\\Help\\index.html");
+}
+
+void frmMain::lblAbout_Click() {
+    application_.forms.ShowModal("frmAbout", *this);
+}
+
+void frmMain::tmrUpdate_Timer() {
+    tmrUpdate_.SetEnabled(false);
+    Settings& settings = application_.settings;
+    if (NumericPrefix(settings.ReadIni("Main", "FirstRun", "0")) == 0) {
+        settings.WriteIni("Main", "FirstRun", "1");
+        LaunchUpdater(application_, true);
+    } else if (NumericPrefix(settings.ReadIni("Update", "CheckUpdate", "1")) == 1) {
+        CheckForUpdate(application_);
+    }
+}
+
+}  // namespace velkarix

@@ -1,0 +1,50 @@
+// The main window: a banner with two links, a strip of six page buttons, and the page on view.
+// It makes the program ready as it loads, and hands over to the update program once, shortly
+// after the first page stands.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/Controls.h"
+#include "forms/Form.h"
+#include "forms/Timer.h"
+#include "shell/Application.h"
+
+namespace velkarix {
+
+class frmMain : public Form {
+  public:
+    explicit frmMain(Application& application);
+
+    void Form_Load() override;
+
+    void lblHelp_Click();
+    void lblAbout_Click();
+    void tmrUpdate_Timer();
+
+  private:
+    void ApplySkin();
+    bool ReadAppearance();
+    void GetWindowsName();
+    void LoadDefinitionLists();
+    void PageButton_Click(std::size_t button);
+    bool ShowPage(const std::string& page);
+    void MarkActivePage();
+
+    Application& application_;
+    std::string activePage_;
+
+    Panel picTop_;
+    PictureBox picProduct_;
+    Label lblProduct_;
+    LinkLabel lblHelp_;
+    LinkLabel lblAbout_;
+    Panel picLeft_;
+    std::vector<std::unique_ptr<Button>> pageButtons_;
+    PageHost picPage_;
+    Timer tmrUpdate_;
+};
+
+}  // namespace velkarix
