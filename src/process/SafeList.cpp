@@ -1,0 +1,37 @@
+#include "process/SafeList.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "base/Text.h"
+#include "shell/TextFile.h"
+
+namespace velkarix {
+
+void LoadSafeList(FileSystem& files, SafeProcesses& list, const std::string& fileName) {
+    const std::optional<std::string> text = ReadTextFile(files, fileName);
+    list = SplitLines(text.value_or(""));
+}
+
+bool IsInSafeList(const SafeProcesses& list, const std::string& key) {
+    return !key.empty() && std::find(list.begin(), list.end(), key) != list.end();
+}
+
+bool RemoveFromSafeList(SafeProcesses& list, const std::string& key) {
+    const auto found = std::find(list.begin(), list.end(), key);
+    if (found == list.end()) return false;
+    list.erase(found);
+    return true;
+}
+
+ErrorCode SaveSafeList(FileSystem& files, const SafeProcesses& list, const std::string& fileName,
+                       EmptyItems emptyItems) {
+    std::string text;
+    for (const std::string& item : list) {
+        if (item.empty() && emptyItems == EmptyItems::Skip) continue;
+        text.append(item).append(LineBreak);
+    }
+    return WriteTextFile(files, fileName, text);
+}
+
+}  // namespace velkarix

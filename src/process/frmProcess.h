@@ -1,0 +1,69 @@
+// The process page: what runs, filtered and judged by the lists or all of it unjudged.
+#pragma once
+
+#include <string>
+
+#include "forms/Controls.h"
+#include "forms/Form.h"
+#include "forms/ImageList.h"
+#include "forms/ListView.h"
+#include "process/SafeList.h"
+#include "process/VerdictCache.h"
+#include "shell/Application.h"
+#include "shell/clsProcess.h"
+
+namespace velkarix {
+
+class frmProcess : public Form {
+  public:
+    // The cache outlives the page.
+    frmProcess(Application& application, VerdictCache& verdictCache);
+
+    void Form_Load() override;
+
+    void LoadProcessList();
+    void optFilter_Click();
+    void lstvProcess_ItemClick(const ListRow& row);
+    void lstvProcess_ColumnClick(int column);
+    void lstvProcess_DblClick();
+    void lstvProcess_MouseUp(MouseButton button);
+    void cmdAdd_Click();
+    void cmdRemove_Click();
+    void cmdKill_Click();
+    void cmdDelete_Click();
+    void cmdViewInformation_Click();
+    void cmdReport_Click();
+    void cmdRefresh_Click();
+    void cmdOpen_Click();
+
+  private:
+    void MakeLayout();
+    void ApplySkin();
+    std::string SafeListFile();
+    void SetFilter(bool on);
+    void ShowEntry(const std::string& path, ProcessId id);
+    void AddProcessRow(const std::string& path, const std::string& name, ProcessId id,
+                       bool suspicious);
+    void SetMenuEntries();
+
+    Application& application_;
+    VerdictCache& verdictCache_;
+    SafeProcesses safeProcessList_;
+    clsProcess fileInfo_;
+    bool filterOn_ = true;
+
+    ListView lstvProcess_;
+    ImageList imglProcess_;
+    Frame fmFilter_;
+    OptionGroup optFilter_;
+    Button cmdAdd_;
+    Button cmdRemove_;
+    Button cmdKill_;
+    Button cmdDelete_;
+    Button cmdViewInformation_;
+    Button cmdReport_;
+    Button cmdRefresh_;
+    Button cmdOpen_;
+};
+
+}  // namespace velkarix
