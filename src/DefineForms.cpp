@@ -1,0 +1,49 @@
+#include "DefineForms.h"
+
+#include <memory>
+
+#include "process/VerdictCache.h"
+#include "process/frmProcess.h"
+#include "shell/Application.h"
+#include "shell/PageToCome.h"
+#include "shell/frmAbout.h"
+#include "shell/frmMain.h"
+#include "shell/frmviewInfo.h"
+
+namespace velkarix {
+
+namespace {
+
+template <typename FormClass>
+void DefineForm(Application& application, const char* name) {
+    application.forms.Define(name,
+                             [&application] { return std::make_unique<FormClass>(application); });
+}
+
+struct ToCome {
+    const char* name;
+    const char* what;
+};
+const ToCome PagesToCome[] = {
+    {"frmIE", "Internet Explorer"}, {"frmStartup", "Startup"},     {"frmAddRemove", "Add/Remove"},
+    {"frmOptions", "Options"},      {"frmUtilities", "Utilities"},
+};
+
+}  // namespace
+
+void DefineForms(Application& application) {
+    DefineForm<frmMain>(application, "frmMain");
+    DefineForm<frmAbout>(application, "frmAbout");
+    DefineForm<frmviewInfo>(application, "frmviewInfo");
+    // The cache lives as long as the program: a page that is left and entered hashes nothing again.
+    application.forms.Define("frmProcess",
+                             [&application, cache = std::make_shared<VerdictCache>()] {
+                                 return std::make_unique<frmProcess>(application, *cache);
+                             });
+    for (const ToCome& page : PagesToCome) {
+        application.forms.Define(
+            page.name, [page] { return std::make_unique<PageToCome>(page.name, page.what); });
+    }
+}
+
+}  // namespace velkarix
