@@ -1,0 +1,27 @@
+// A value of the registry as it lies there, whatever its type.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/Bytes.h"
+#include "platform/Registry.h"
+
+namespace velkarix {
+
+struct RawValue {
+    std::string name;
+    std::uint32_t type = 0;  // of registryType, or any other number
+    Bytes data;
+};
+
+// Reads the value at `index` with a buffer that grows to the value's size. `nameCapacity` is in
+// bytes with the NUL. Gives the system's code; a value that keeps growing faster than it can be
+// read stays MoreData, as does one whose name is too long.
+ErrorCode EnumRawValue(Registry& registry, KeyHandle key, std::uint32_t index,
+                       std::uint32_t nameCapacity, RawValue& value);
+
+// The memory for a value of a size that the registry claims; false when no real value is as large.
+bool MakeRoom(Bytes& buffer, std::uint32_t size);
+
+}  // namespace velkarix

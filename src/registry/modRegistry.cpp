@@ -1,0 +1,153 @@
+#include "registry/modRegistry.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/Text.h"
+#include "registry/CopyKeyTree.h"
+#include "registry/OpenKey.h"
+
+namespace velkarix {
+namespace {
+
+constexpr const char* kBreak = LineBreak.data();
+
+// No tree of the system is deeper; a link that leads back up makes an endless one.
+constexpr int kDeepestLevel = 512;
+
+}  // namespace
+
+modRegistry::modRegistry(const Machine& machine, Desktop& desktop, std::string title)
+    : registry_(machine.registry),
+      system_(machine.system),
+      desktop_(desktop),
+      title_(std::move(title)) {}
+
+// ---- Writing
+
+bool modRegistry::SetStringValue(Hive hive, const std::string& key, const std::string& valueName,
+                                 const std::string& text) {
+    Bytes data(text.begin(), text.end());
+    data.push_back(0);
+    return SetValue(hive, key, valueName, registryType::Sz, data, false);
+}
+
+bool modRegistry::SetBinaryValue(Hive hive, const std::string& key, const std::string& valueName,
+                                 const Bytes& bytes, bool writeZeros) {
+    return SetValue(hive, key, valueName, registryType::Binary,
+                    writeZeros ? Bytes(bytes.size()) : bytes, false);
+}
+
+bool modRegistry::SetDwordValue(Hive hive, const std::string& key, const std::string& valueName,
+                                std::int32_t value) {
+    Bytes data;
+    for (int shift = 0; shift < 32; shift += 8) {
+        data.push_back(static_cast<std::uint8_t>(static_cast<std::uint32_t>(value) >> shift));
+    }
+    return SetValue(hive, key, valueName, registryType::Dword, data, true);
+}
+
+bool modRegistry::SetValue(Hive hive, const std::string& key, const std::string& valueName,
+                           std::uint32_t type, const Bytes& data, bool quiet) {
+    OpenKey open(registry_);
+    const ErrorCode created = open.Create(Registry::HandleOf(hive), key);
+    if (created != error::Success) {
+        if (!quiet) ShowFailure("Key Could not be created", key, created);
+        return false;
+    }
+    registry_.RegSetValueExA(open.Handle(), valueName, type, data);
+    return true;
+}
+
+bool modRegistry::CreateKey(Hive hive, const std::string& key) {
+    OpenKey open(registry_);
+    const ErrorCode created = open.Create(Registry::HandleOf(hive), key);
+    if (created != error::Success) ShowFailure("Key Could not be created", key, created);
+    return created == error::Success;
+}
+
+// ---- Deleting
+
+bool modRegistry::DeleteKey(Hive hive, const std::string& key, bool quiet) {
+    const ErrorCode deleted = registry_.RegDeleteKeyA(Registry::HandleOf(hive), key);
+    if (deleted != error::Success && !quiet) {
+        ShowFailure("Key Could not be deleted", key + kBreak, deleted);
+    }
+    return deleted == error::Success;
+}
+
+bool modRegistry::DeleteValue(Hive hive, const std::string& key, const std::string& valueName,
+                              bool quiet) {
+    const char* failure = "Key Value Could not be opened";
+    OpenKey open(registry_);
+    ErrorCode result = open.Open(Registry::HandleOf(hive), key, KeyAccess::All);
+    if (result == error::Success) {
+        failure = "Key Value Could not be deleted";
+        result = registry_.RegDeleteValueA(open.Handle(), valueName);
+    }
+    open.Close();
+    if (result != error::Success && !quiet) {
+        ShowFailure(failure, key + kBreak + kBreak + valueName, result);
+    }
+    return result == error::Success;
+}
+
+bool modRegistry::DeleteSubKeys(Hive hive, const std::string& key) {
+    bool opened = false;
+    return DeleteBelow(hive, key, 0, opened) && opened;
+}
+
+bool modRegistry::DeleteBelow(Hive hive, const std::string& key, int level, bool& opened) {
+    if (level > kDeepestLevel) return false;
+    OpenKey open(registry_);
+    opened = open.Open(Registry::HandleOf(hive), key, KeyAccess::All) == error::Success;
+    if (!opened) return true;
+
+    // All names come first, so that deleting can't disturb the enumeration.
+    constexpr std::uint32_t NameCapacity = 256;
+    std::vector<std::string> names;
+    for (std::uint32_t index = 0;; ++index) {
+        desktop_.YieldEvents();
+        std::string name;
+        if (registry_.RegEnumKeyA(open.Handle(), index, NameCapacity, name) != error::Success) {
+            break;
+        }
+        names.push_back(TrimAtNull(name));
+    }
+    for (const std::string& name : names) {
+        bool subKeyOpened = false;
+        if (!DeleteBelow(hive, key + "\\" + name, level + 1, subKeyOpened)) return false;
+        registry_.RegDeleteKeyA(open.Handle(), name);
+    }
+    return true;
+}
+
+// ---- Copying
+
+bool modRegistry::CopyKey(Hive srcHive, const std::string& srcKey, Hive destHive,
+                          const std::string& destKey) {
+    CreateKey(destHive, destKey);
+    const KeyHandle source = Registry::HandleOf(srcHive);
+    OpenKey destination(registry_);
+    if (destination.Open(source, destKey, KeyAccess::Write) != error::Success) return false;
+    ErrorCode copied = registry_.SHCopyKeyA(source, srcKey, destination.Handle());
+    if (copied == error::ProcNotFound) {
+        copied = CopyKeyTree(registry_, source, srcKey, destination.Handle());
+    }
+    return copied == error::Success;
+}
+
+// ---- What the user is told
+
+std::string modRegistry::GetSystemErrorText(ErrorCode code) {
+    constexpr std::uint32_t Capacity = 256;
+    return system_.FormatMessageA(code, Capacity);
+}
+
+void modRegistry::ShowFailure(const char* what, const std::string& detail, ErrorCode code) {
+    desktop_.ShowMessage({std::string("Following ") + what + ": " + kBreak + detail + kBreak +
+                              GetSystemErrorText(code),
+                          title_, MessageIcon::Critical, MessageButtons::Ok});
+}
+
+}  // namespace velkarix

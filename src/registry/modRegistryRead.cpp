@@ -1,0 +1,132 @@
+#include <algorithm>
+#include <cstdint>
+#include <set>
+#include <utility>
+
+#include "base/Text.h"
+#include "registry/OpenKey.h"
+#include "registry/RawValue.h"
+#include "registry/modRegistry.h"
+
+namespace velkarix {
+namespace {
+
+// The four bytes as a little-endian number; bytes that aren't there are 0.
+std::int32_t ToInteger(const Bytes& data) {
+    std::uint32_t number = 0;
+    for (std::size_t i = std::min<std::size_t>(data.size(), 4); i > 0; --i) {
+        number = number << 8 | data[i - 1];
+    }
+    return static_cast<std::int32_t>(number);
+}
+
+RegValueEntry TextEntry(RawValue& value, std::size_t terminators) {
+    if (value.data.size() <= terminators) return {std::move(value.name), "", RegValueTag::None};
+    const auto end = value.data.end() - static_cast<std::ptrdiff_t>(terminators);
+    return {std::move(value.name), std::string(value.data.begin(), end), RegValueTag::Text};
+}
+
+RegValueEntry ToEntry(RawValue& value) {
+    switch (value.type) {
+        case registryType::Sz:
+        case registryType::ExpandSz:
+            return TextEntry(value, 1);
+        case registryType::MultiSz:
+            return TextEntry(value, 2);
+        case registryType::Dword:
+            return {std::move(value.name), ToInteger(value.data), RegValueTag::Integer};
+        case registryType::Binary:
+            if (value.data.empty()) break;
+            return {std::move(value.name), std::move(value.data), RegValueTag::ByteArray};
+        default:
+            break;
+    }
+    return {std::move(value.name), "", RegValueTag::None};
+}
+
+}  // namespace
+
+void modRegistry::EnumSubKeys(Hive hive, const std::string& key, std::vector<std::string>& names) {
+    constexpr std::uint32_t NameCapacity = 255;
+    OpenKey open(registry_);
+    if (open.Open(Registry::HandleOf(hive), key) != error::Success) return;
+    for (std::uint32_t index = 0;; ++index) {
+        std::string name;
+        if (registry_.RegEnumKeyExA(open.Handle(), index, NameCapacity, name) != error::Success) {
+            return;
+        }
+        names.push_back(TrimAtNull(name));
+    }
+}
+
+std::vector<RegValueEntry> modRegistry::EnumValues(Hive hive, const std::string& key) {
+    constexpr std::uint32_t NameCapacity = 260;
+    std::vector<RegValueEntry> entries;
+    KeyHandle handle = Registry::HandleOf(hive);
+    OpenKey open(registry_);
+    if (!key.empty()) {
+        if (open.Open(handle, key, KeyAccess::Read) != error::Success) return entries;
+        handle = open.Handle();
+    }
+    std::set<std::string> namesSoFar;
+    RawValue value;
+    for (std::uint32_t index = 0;; ++index) {
+        if (EnumRawValue(registry_, handle, index, NameCapacity, value) != error::Success) break;
+        if (namesSoFar.insert(ToLower(value.name)).second) entries.push_back(ToEntry(value));
+    }
+    return entries;
+}
+
+std::string modRegistry::GetStringValue(Hive hive, const std::string& key,
+                                        const std::string& valueName) {
+    OpenKey open(registry_);
+    if (open.Open(Registry::HandleOf(hive), key) != error::Success) return {};
+    std::uint32_t type = 0;
+    std::uint32_t size = 0;
+    Bytes data;
+    if (registry_.RegQueryValueExA(open.Handle(), valueName, type, nullptr, size) !=
+            error::Success ||
+        !MakeRoom(data, size) ||
+        registry_.RegQueryValueExA(open.Handle(), valueName, type, &data, size) != error::Success) {
+        return {};
+    }
+    data.resize(std::min<std::size_t>(size, data.size()));
+    return TrimAtNull(std::string(data.begin(), data.end()));
+}
+
+std::int32_t modRegistry::GetDwordValue(Hive hive, const std::string& key,
+                                        const std::string& valueName, bool& missing) {
+    OpenKey open(registry_);
+    if (open.Open(Registry::HandleOf(hive), key, KeyAccess::Read) != error::Success) return 0;
+    std::uint32_t type = 0;
+    std::uint32_t size = 0;
+    Bytes data(4);
+    if (registry_.RegQueryValueExA(open.Handle(), valueName, type, &data, size) != error::Success) {
+        missing = true;
+        return 0;
+    }
+    data.resize(std::min<std::size_t>(size, data.size()));
+    return ToInteger(data);
+}
+
+bool modRegistry::GetBinaryValue(Hive hive, const std::string& key, const std::string& valueName,
+                                 Bytes& bytes, bool expect552) {
+    constexpr std::size_t SlowInfoCacheSize = 552;
+    OpenKey open(registry_);
+    if (open.Open(Registry::HandleOf(hive), key, KeyAccess::Read) != error::Success) return false;
+    // The first question has room for one byte only: it is asked for the size.
+    std::uint32_t type = 0;
+    std::uint32_t size = 1;
+    bytes.assign(1, 0);
+    registry_.RegQueryValueExA(open.Handle(), valueName, type, &bytes, size);
+    if (size == 0 || !MakeRoom(bytes, size) ||
+        registry_.RegQueryValueExA(open.Handle(), valueName, type, &bytes, size) !=
+            error::Success) {
+        return false;
+    }
+    bytes.resize(std::min<std::size_t>(size, bytes.size()));
+    const bool closed = open.Close() == error::Success;
+    return (expect552 && bytes.size() == SlowInfoCacheSize) || (bytes.size() > 1 && closed);
+}
+
+}  // namespace velkarix
