@@ -1,0 +1,87 @@
+#include "shell/FilePaths.h"
+
+#include "base/Text.h"
+#include "shell/DirectorySearch.h"
+#include "shell/ShellOpen.h"
+
+namespace velkarix {
+
+bool PathExists(FileSystem& files, const std::string& path) {
+    const std::optional<bool> exists = files.PathFileExistsA(path);
+    if (exists) return *exists;
+    // Systems without Internet Explorer 4 lack the shell's call.
+    return files.GetFileAttributesA(path) != fileAttribute::Invalid;
+}
+
+std::string CleanPath(const Machine& machine, const std::string& path) {
+    std::string clean = path;
+    if (clean.find('%') != std::string::npos) clean = ExpandEnvPath(machine.system, clean);
+    if (clean.find('~') != std::string::npos) clean = GetLongPath(machine.files, clean);
+    return clean;
+}
+
+std::string ExpandEnvPath(SystemFacts& system, const std::string& path) {
+    constexpr std::size_t RoomForValues = 256;
+    if (path.find('%') == std::string::npos) return path;
+    const auto capacity = static_cast<std::uint32_t>(path.size() + RoomForValues);
+    return TrimAtNull(system.ExpandEnvironmentStringsA(path, capacity).value_or(""));
+}
+
+std::string GetLongPath(FileSystem& files, const std::string& path) {
+    constexpr std::size_t FirstLevel = 3;  // behind the drive: "C:\"
+    const std::string levels = path + "\\";
+    std::string longPath = path.substr(0, 2);
+    for (std::size_t end = levels.find('\\', FirstLevel); end != std::string::npos;
+         end = levels.find('\\', end + 1)) {
+        const auto level = FindEntry(files, levels.substr(0, end), searchFor::Everything);
+        if (!level) return path;
+        longPath += "\\" + level->name;
+    }
+    return longPath;
+}
+
+std::string FindOnPath(const Machine& machine, const std::string& fileName) {
+    std::string folders = machine.system.GetEnvironmentVariableA("path");
+    if (folders.empty()) return {};
+    folders += ';';
+    std::size_t start = 0;
+    for (std::size_t end = 0; (end = folders.find(';', start)) != std::string::npos;
+         start = end + 1) {
+        const std::string candidate = folders.substr(start, end - start) + "\\" + fileName;
+        if (PathExists(machine.files, candidate)) return candidate;
+    }
+    return {};
+}
+
+std::vector<std::string> ListFolderFiles(FileSystem& files, const std::string& folder,
+                                         const std::string& pattern) {
+    std::vector<std::string> names;
+    DirectorySearch search(files, folder + "\\" + pattern, searchFor::HiddenFiles);
+    while (const std::optional<FoundFile> found = search.Next()) {
+        if (found->name != "." && found->name != "..") names.push_back(found->name);
+    }
+    return names;
+}
+
+std::optional<std::uint64_t> FileLength(FileSystem& files, const std::string& path) {
+    const std::optional<FoundFile> found = FindEntry(files, path, searchFor::Everything);
+    return found ? std::optional(found->size) : std::nullopt;
+}
+
+std::string SizeText(std::uint64_t length) {
+    // In whole numbers, since half a tenth must be rounded up and not to the even digit.
+    const std::uint64_t kilobytes = length / 1024;
+    const std::uint64_t tenths = (length % 1024 * 20 + 1024) / 2048;
+    return std::to_string(kilobytes + tenths / 10) + "." + std::to_string(tenths % 10);
+}
+
+std::string FileSizeText(FileSystem& files, const std::string& path) {
+    const std::optional<std::uint64_t> length = FileLength(files, path);
+    return length ? SizeText(*length) : std::string();
+}
+
+void ShowInExplorer(Shell& shell, WindowHandle mainWindow, const std::string& path) {
+    shell.ShellExecuteA(mainWindow, "Open", "explorer.exe", "/select," + path, "", ShowNormal);
+}
+
+}  // namespace velkarix

@@ -1,0 +1,50 @@
+#include "shell/modMD5.h"
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <span>
+
+#include "base/RawBuffer.h"
+#include "shell/OpenFile.h"
+
+namespace velkarix {
+namespace {
+
+// Small enough to stay in the processor's cache from reading to hashing.
+constexpr std::size_t kBlockSize = 256 * 1024;
+constexpr std::size_t kDigestSize = 16;
+
+bool HashFile(FileSystem& files, FileHandle file, Hash& hash) {
+    RawBuffer<std::uint8_t> block;
+    if (!block.Grow(kBlockSize, 0)) return false;
+    for (;;) {
+        std::uint32_t read = 0;
+        if (files.ReadFile(file, {block.Data(), kBlockSize}, read) != error::Success) return false;
+        if (read == 0) return true;
+        if (!hash.CryptHashData({block.Data(), read})) return false;
+    }
+}
+
+std::string ToHex(const Bytes& bytes) {
+    constexpr char Digits[] = "0123456789abcdef";
+    std::string text;
+    for (const std::uint8_t byte : bytes) {
+        text += Digits[byte >> 4];
+        text += Digits[byte & 0xF];
+    }
+    return text;
+}
+
+}  // namespace
+
+std::string GetFileMD5(const Machine& machine, const std::string& path) {
+    const OpenFile file(machine.files, path);
+    if (!file.IsOpen()) return {};
+    const std::unique_ptr<Hash> hash = machine.cryptography.CryptCreateHash();
+    if (!hash || !HashFile(machine.files, file.Handle(), *hash)) return {};
+    const std::optional<Bytes> digest = hash->CryptGetHashParam();
+    return digest && digest->size() == kDigestSize ? ToHex(*digest) : std::string();
+}
+
+}  // namespace velkarix
