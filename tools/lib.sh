@@ -65,3 +65,36 @@ stop_display() {
     wait "$xvfb" 2>/dev/null || true
     xvfb=""
 }
+
+# The name that programs under Wine know a file of this system by.
+windows_path() {
+    local path
+    path=$(cd "$(dirname "$1")" && pwd)/$(basename "$1")
+    echo "Z:${path//\//\\}"
+}
+
+# Checks written as commands, told in the manner of GoogleTest so that one reader counts them all:
+# check NAME COMMAND... passes when the command succeeds, and checks_end says how many did.
+checks_passed=0
+checks_failed=()
+
+check() {
+    local name=$1 said
+    shift
+    if said=$("$@" 2>&1); then
+        checks_passed=$((checks_passed + 1))
+        echo "[       OK ] $name"
+    else
+        checks_failed+=("$name")
+        [[ -z $said ]] || echo "$said"
+        echo "[  FAILED  ] $name"
+    fi
+}
+
+checks_end() {
+    echo "[  PASSED  ] $checks_passed tests."
+    [[ ${#checks_failed[@]} -eq 0 ]] && return
+    echo "[  FAILED  ] ${#checks_failed[@]} tests, listed below:"
+    printf '[  FAILED  ] %s\n' "${checks_failed[@]}"
+    return 1
+}

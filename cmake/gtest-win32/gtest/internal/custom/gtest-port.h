@@ -11,19 +11,19 @@ namespace testing::internal {
 
 // Waiting is a busy loop: only GoogleTest's tests of itself ever wait.
 class Notification {
- public:
-  Notification() = default;
-  Notification(const Notification&) = delete;
-  Notification& operator=(const Notification&) = delete;
+  public:
+    Notification() = default;
+    Notification(const Notification&) = delete;
+    Notification& operator=(const Notification&) = delete;
 
-  void Notify() { notified_ = true; }
-  void WaitForNotification() {
-    while (!notified_) {
+    void Notify() { notified_ = true; }
+    void WaitForNotification() {
+        while (!notified_) {
+        }
     }
-  }
 
- private:
-  std::atomic<bool> notified_{false};
+  private:
+    std::atomic<bool> notified_{false};
 };
 
 }  // namespace testing::internal
