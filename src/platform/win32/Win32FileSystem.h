@@ -1,0 +1,29 @@
+// Files and folders of the running system.
+#pragma once
+
+#include "platform/FileSystem.h"
+#include "platform/win32/SystemLibrary.h"
+
+namespace velkarix {
+
+class Win32FileSystem : public FileSystem {
+  public:
+    SearchHandle FindFirstFileA(const std::string& pattern, FoundFile& found) override;
+    bool FindNextFileA(SearchHandle search, FoundFile& found) override;
+    bool FindClose(SearchHandle search) override;
+    std::optional<bool> PathFileExistsA(const std::string& path) override;
+    std::uint32_t GetFileAttributesA(const std::string& path) override;
+    ErrorCode CreateDirectoryA(const std::string& path) override;
+    ErrorCode CreateFileA(const std::string& path, FileUse use, FileHandle& file) override;
+    std::optional<std::uint64_t> GetFileSize(FileHandle file) override;
+    ErrorCode ReadFile(FileHandle file, std::span<std::uint8_t> buffer,
+                       std::uint32_t& read) override;
+    ErrorCode WriteFile(FileHandle file, std::span<const std::uint8_t> data,
+                        std::uint32_t& written) override;
+    bool CloseFile(FileHandle file) override;
+
+  private:
+    SystemLibrary shlwapi_{"shlwapi.dll"};
+};
+
+}  // namespace velkarix
