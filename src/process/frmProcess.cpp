@@ -68,13 +68,11 @@ void frmProcess::MakeLayout() {
     SetControls({&lstvProcess_, &fmFilter_, &filtered, &all, &cmdAdd_, &cmdRemove_, &cmdKill_,
                  &cmdDelete_, &cmdViewInformation_, &cmdReport_, &cmdRefresh_, &cmdOpen_});
     SetAccelerators({{Key::F5, false, "cmdRefresh_Click"}});
-    SetLayout(Column({Item(lstvProcess_, 1),
-                      Row({Group(fmFilter_, Column({Item(filtered), Item(all)})),
-                           Column({UniformRow({Item(cmdAdd_), Item(cmdKill_),
-                                               Item(cmdViewInformation_), Item(cmdRefresh_)}),
-                                   UniformRow({Item(cmdRemove_), Item(cmdDelete_), Item(cmdReport_),
-                                               Item(cmdOpen_)})},
-                                  1)})}));
+    SetLayout(Column(
+        {Item(lstvProcess_, 1),
+         Row({Group(fmFilter_, Column({Item(filtered), Item(all)})),
+              Grid(4, {Item(cmdAdd_), Item(cmdKill_), Item(cmdViewInformation_), Item(cmdRefresh_),
+                       Item(cmdRemove_), Item(cmdDelete_), Item(cmdReport_), Item(cmdOpen_)})})}));
 }
 
 void frmProcess::Form_Load() {
