@@ -37,6 +37,9 @@ class Home {
     virtual void Lock(const std::string& path) = 0;
     // Makes an icon file (.ico) that has one icon.
     virtual void MakeIconFile(const std::string& path) = 0;
+    // Whether the read-only attribute keeps this process from writing: not for the root user of
+    // a Wine.
+    virtual bool KeepsReadOnly() = 0;
     // A drive letter with its colon that no drive has.
     virtual std::string MissingDrive() = 0;
 

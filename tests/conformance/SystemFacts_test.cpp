@@ -29,7 +29,9 @@ TEST_P(SystemConformance, BothVersionCallsAgree) {
     const std::uint32_t number = system_.GetVersion();
     EXPECT_EQ(number & 0xFF, version->major);
     EXPECT_EQ(number >> 8 & 0xFF, version->minor);
-    EXPECT_EQ(number >> 16 & 0x3FFF, version->build & 0x3FFF);
+    if (IsNt()) {  // the 95 family keeps the upper half for itself
+        EXPECT_EQ(number >> 16, version->build);
+    }
 }
 
 TEST_P(SystemConformance, The95FamilyRepeatsTheVersionInTheBuildNumber) {
@@ -93,9 +95,11 @@ TEST_P(SystemConformance, WhatIsNoVariableStays) {
     };
     EXPECT_EQ(expand("%VelkarixMissing%\\a.exe"), "%VelkarixMissing%\\a.exe");
     EXPECT_EQ(expand("100%"), "100%");
-    EXPECT_EQ(expand("100% %VelkarixTest%"), "100% value");
-    EXPECT_EQ(expand("%VelkarixMissing%VelkarixTest%"), "%VelkarixMissingvalue");
+    EXPECT_EQ(expand("%VelkarixTest% 100%"), "value 100%");
     EXPECT_EQ(expand("%%"), "%%");
+    // The sign that ends an unknown name doesn't begin another.
+    EXPECT_EQ(expand("100% %VelkarixTest%"), "100% %VelkarixTest%");
+    EXPECT_EQ(expand("%VelkarixMissing%VelkarixTest%"), "%VelkarixMissing%VelkarixTest%");
 }
 
 TEST_P(SystemConformance, ExpandingNeedsRoomForTheNul) {

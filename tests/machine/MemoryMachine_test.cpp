@@ -114,6 +114,15 @@ TEST(MemoryMachine, The95FamilyHasNoRightsAndShorterNames) {
               error::InvalidParameter);
 }
 
+TEST(MemoryMachine, AKeyNameHasAtMost255Bytes) {
+    MemoryMachine machine;
+    KeyHandle key = 0;
+    EXPECT_EQ(machine.Parts().registry.RegCreateKeyA(Registry::HandleOf(Hive::CurrentUser),
+                                                     std::string(256, 'k'), key),
+              error::InvalidParameter);
+    EXPECT_TRUE(machine.registry.SubKeysOf(Hive::CurrentUser, "").empty());
+}
+
 TEST(MemoryMachine, CopyingKeysCanBeMissing) {
     MemoryMachine machine;
     machine.AddKey(Hive::CurrentUser, "A");

@@ -104,15 +104,14 @@ std::optional<std::string> MemorySystemFacts::ExpandEnvironmentStringsA(const st
     std::string expanded;
     for (std::size_t at = 0; at < text.size();) {
         const std::size_t end = text[at] == '%' ? text.find('%', at + 1) : std::string::npos;
-        const std::string value =
-            end == std::string::npos ? std::string() : Variable(text.substr(at + 1, end - at - 1));
-        if (value.empty()) {
-            // No variable begins here; the next % may begin one, also the one that ended this.
+        if (end == std::string::npos) {
             expanded += text[at++];
-        } else {
-            expanded += value;
-            at = end + 1;
+            continue;
         }
+        const std::string value = Variable(text.substr(at + 1, end - at - 1));
+        // An unknown variable stays with both its signs.
+        expanded += value.empty() ? text.substr(at, end + 1 - at) : value;
+        at = end + 1;
     }
     return IfItFits(expanded, capacity);
 }

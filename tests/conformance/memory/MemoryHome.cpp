@@ -39,6 +39,7 @@ class MemoryHome : public Home {
     void MakeIconFile(const std::string& path) override {
         memory_.AddFile(path).Icon(0, Square(32), Square(16));
     }
+    bool KeepsReadOnly() override { return true; }
     std::string MissingDrive() override { return "Q:"; }
 
     void SetVariable(const std::string& name, const std::string& value) override {

@@ -71,7 +71,8 @@ std::string RedIcon() {
     header.biSizeImage = pixelBytes + maskBytes;
 
     std::string bytes;
-    for (const auto field : std::to_array<std::uint16_t>({0, 1, 1})) {  // reserved, an icon, one of them
+    for (const auto field :
+         std::to_array<std::uint16_t>({0, 1, 1})) {  // reserved, an icon, one of them
         Append(bytes, field);
     }
     for (const auto field : std::to_array<std::uint8_t>({iconSize, iconSize, 0, 0})) {
@@ -139,6 +140,13 @@ class Win32Home : public Home {
                                          FILE_ATTRIBUTE_NORMAL, nullptr));
     }
     void MakeIconFile(const std::string& path) override { MakeFile(path, RedIcon(), 0); }
+    bool KeepsReadOnly() override {
+        const std::string path = folder_ + "\\readonly";
+        MakeFile(path, "", FILE_ATTRIBUTE_READONLY);
+        const HANDLE file = ::CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+                                          FILE_ATTRIBUTE_NORMAL, nullptr);
+        return file == INVALID_HANDLE_VALUE || ::CloseHandle(file) == 0;
+    }
     std::string MissingDrive() override {
         const std::uint32_t drives = GetLogicalDrives();
         char letter = 'D';
