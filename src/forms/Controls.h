@@ -15,6 +15,7 @@ namespace velkarix {
 
 using Handler = std::function<void()>;
 
+// Text as it stands: a label has no access key, and "&" is a letter in it as any other.
 class Label : public Control {
   public:
     enum class Look { Plain, Title };  // a title stands in large type on the banner
@@ -98,6 +99,7 @@ class OptionGroup;
 class OptionButton : public Control {
   public:
     OptionButton(OptionGroup& group, int index, std::string text);
+    const OptionGroup& Group() const { return group_; }
     int Index() const { return index_; }
     bool Chosen() const;
     bool Fire(std::string_view event) override;

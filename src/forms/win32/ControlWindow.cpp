@@ -1,0 +1,103 @@
+#include "forms/win32/ControlWindow.h"
+
+#include <cstdint>
+
+#include "forms/win32/WindowName.h"
+#include "forms/win32/WindowTree.h"
+
+namespace velkarix {
+
+ControlWindow::ControlWindow(DesktopContext& context, Control& model, const ControlPlace& place,
+                             const NativeKind& kind)
+    : context_(context), model_(model), ground_(place.ground) {
+    DWORD style = WS_CHILD | WS_CLIPSIBLINGS | kind.style;
+    if (place.startsGroup) style |= WS_GROUP;
+    if (model.Visible()) style |= WS_VISIBLE;
+    if (!model.Enabled()) style |= WS_DISABLED;
+    handle_ = CreateWindowExA(kind.extendedStyle, kind.windowClass, model.Text().c_str(), style,
+                              place.area.x, place.area.y, place.area.width, place.area.height,
+                              place.parent, reinterpret_cast<HMENU>(std::intptr_t{place.id}),
+                              context.instance, nullptr);
+    native_ = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(handle_, GWLP_WNDPROC));
+    SetWindowLongPtrA(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    SetWindowLongPtrA(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure));
+    SetWindowName(handle_, model.Name());
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(context.fonts.Dialog()));
+    model.AttachView(this);
+}
+
+void ControlWindow::Detach() {
+    model_.AttachView(nullptr);
+    RemoveWindowName(handle_);
+    SetWindowLongPtrA(handle_, GWLP_USERDATA, 0);
+    SetWindowLongPtrA(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(native_));
+}
+
+ControlWindow* ControlWindow::From(HWND window) {
+    const auto procedure = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(window, GWLP_WNDPROC));
+    if (procedure != Procedure) return nullptr;
+    return reinterpret_cast<ControlWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA));
+}
+
+LRESULT CALLBACK ControlWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto* self = reinterpret_cast<ControlWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA));
+    const ProcedureScope scope(self->context_);
+    return self->OnMessage(message, wParam, lParam);
+}
+
+LRESULT ControlWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    return CallWindowProcA(native_, handle_, message, wParam, lParam);
+}
+
+HBRUSH ControlWindow::OnColour(HDC context) {
+    if (ground_ == Shade::Face) return nullptr;
+    const Ink& ink = context_.palette.Of(ground_);
+    SetTextColor(context, ink.text);
+    SetBkColor(context, ink.ground);
+    return context_.palette.Brush(ground_);
+}
+
+void ControlWindow::Move(const Rect& area) const {
+    SetWindowPos(handle_, nullptr, area.x, area.y, area.width, area.height,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void ControlWindow::SendToBack() const {
+    SetWindowPos(handle_, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+void ControlWindow::Changed(Aspect aspect) {
+    switch (aspect) {
+        case Aspect::Text:
+            SetWindowTextA(handle_, model_.Text().c_str());
+            return;
+        case Aspect::Enabled:
+            if (!model_.Enabled()) PassFocusOn();
+            EnableWindow(handle_, model_.Enabled() ? TRUE : FALSE);
+            return;
+        case Aspect::Visible:
+            if (!model_.Visible()) PassFocusOn();
+            ShowWindow(handle_, model_.Visible() ? SW_SHOWNA : SW_HIDE);
+            return;
+        default:
+            return;
+    }
+}
+
+// A control that goes out of use would keep the keyboard to itself.
+void ControlWindow::PassFocusOn() const {
+    if (GetFocus() != handle_) return;
+    SetFocus(GetNextDlgTabItem(TopLevelOf(handle_), handle_, FALSE));
+}
+
+LRESULT ControlWindow::Send(UINT message, WPARAM wParam, LPARAM lParam) const {
+    return SendMessageA(handle_, message, wParam, lParam);
+}
+
+RECT ControlWindow::ClientArea() const {
+    RECT area{};
+    GetClientRect(handle_, &area);
+    return area;
+}
+
+}  // namespace velkarix

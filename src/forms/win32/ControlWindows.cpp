@@ -1,0 +1,58 @@
+#include "forms/win32/ControlWindows.h"
+
+#include "forms/ControlVisitor.h"
+#include "forms/win32/AreaWindows.h"
+#include "forms/win32/ButtonWindows.h"
+#include "forms/win32/LinkWindow.h"
+#include "forms/win32/ListViewWindow.h"
+#include "forms/win32/PictureButtonWindow.h"
+#include "forms/win32/StaticWindows.h"
+#include "forms/win32/TextBoxWindow.h"
+
+namespace velkarix {
+
+namespace {
+
+class Maker : public ControlVisitor {
+  public:
+    Maker(DesktopContext& context, const ControlPlace& place) : context_(context), place_(place) {}
+    std::unique_ptr<ControlWindow> Made() { return std::move(made_); }
+
+    void Visit(Button& control) override {
+        if (control.ButtonLook() == Button::Look::Picture) {
+            Make<PictureButtonWindow>(control);
+        } else {
+            Make<CommandButtonWindow>(control);
+        }
+    }
+    void Visit(Frame& control) override { Make<FrameWindow>(control); }
+    void Visit(Label& control) override { Make<LabelWindow>(control); }
+    void Visit(LinkLabel& control) override { Make<LinkWindow>(control); }
+    void Visit(ListView& control) override { Make<ListViewWindow>(control); }
+    void Visit(OptionButton& control) override { Make<OptionWindow>(control); }
+    void Visit(PageHost& control) override { Make<PageHostWindow>(control); }
+    void Visit(Panel& control) override { Make<PanelWindow>(control); }
+    void Visit(PictureBox& control) override { Make<PictureWindow>(control); }
+    void Visit(TextBox& control) override { Make<TextBoxWindow>(control); }
+
+  private:
+    template <typename Window, typename Model>
+    void Make(Model& control) {
+        made_ = std::make_unique<Window>(context_, control, place_);
+    }
+
+    DesktopContext& context_;
+    const ControlPlace& place_;
+    std::unique_ptr<ControlWindow> made_;
+};
+
+}  // namespace
+
+std::unique_ptr<ControlWindow> MakeControlWindow(DesktopContext& context, Control& control,
+                                                 const ControlPlace& place) {
+    Maker maker(context, place);
+    control.Accept(maker);
+    return maker.Made();
+}
+
+}  // namespace velkarix

@@ -1,0 +1,34 @@
+// The fonts of all forms: the one that the system uses for its dialogs, and what derives from it.
+#pragma once
+
+#include <string>
+
+#include "forms/Layout.h"
+#include "forms/win32/Dpi.h"
+#include "forms/win32/Handles.h"
+
+namespace velkarix {
+
+class Fonts {
+  public:
+    explicit Fonts(const Dpi& dpi);
+    HFONT Dialog() const { return dialog_.get(); }
+    HFONT Bold() const { return bold_.get(); }
+    HFONT Title() const { return title_.get(); }
+    HFONT Link() const { return link_.get(); }
+
+  private:
+    OwnedFont dialog_;
+    OwnedFont bold_;
+    OwnedFont title_;
+    OwnedFont link_;
+};
+
+// The pixels that a caption takes, "&" being the mark of its access key; it may have several lines.
+Size CaptionExtent(HFONT font, const std::string& caption);
+// The same for text in which "&" is a letter as any other.
+Size TextExtent(HFONT font, const std::string& text);
+// The mean width of a letter, as the system counts dialog units.
+int AverageCharacterWidth(HFONT font);
+
+}  // namespace velkarix

@@ -1,0 +1,79 @@
+#include "forms/win32/FormKeys.h"
+
+#include <optional>
+
+#include "forms/Controls.h"
+#include "forms/win32/WindowTree.h"
+
+namespace velkarix {
+
+namespace {
+
+bool IsDown(int key) {
+    return GetKeyState(key) < 0;
+}
+
+std::optional<Key> KeyOf(WPARAM code) {
+    struct Pair {
+        WPARAM code;
+        Key key;
+    };
+    static constexpr Pair pairs[] = {
+        {VK_F5, Key::F5},   {'1', Key::Digit1}, {'2', Key::Digit2}, {'3', Key::Digit3},
+        {'4', Key::Digit4}, {'5', Key::Digit5}, {'6', Key::Digit6},
+    };
+    for (const Pair& pair : pairs) {
+        if (pair.code == code) return pair.key;
+    }
+    return std::nullopt;
+}
+
+// The page on view is asked first, then the form around it.
+bool RaiseAccelerator(FormWindow& form, FormWindow* page, WPARAM code) {
+    const std::optional<Key> key = KeyOf(code);
+    if (!key || IsDown(VK_MENU)) return false;
+    const bool control = IsDown(VK_CONTROL);
+    Form& model = form.Model();  // the page's handler may end the page
+    return (page != nullptr && page->Model().RaiseKey(*key, control)) ||
+           model.RaiseKey(*key, control);
+}
+
+bool PressDefaultButton(const FormWindow* form) {
+    Button* button = form != nullptr ? form->Model().DefaultButton() : nullptr;
+    return button != nullptr && button->Raise("Click");
+}
+
+bool OnEnter(const FormWindow& form, const FormWindow* page, HWND focus) {
+    ControlWindow* control = focus != nullptr ? ControlWindow::From(focus) : nullptr;
+    if (control != nullptr && control->OnEnter()) return true;
+    // A default button of the page or form; without one, Enter means nothing.
+    return PressDefaultButton(page) || PressDefaultButton(&form) || true;
+}
+
+// Esc is the dialog's cancel button, and closes a dialog that has none.
+bool OnEscape(const FormWindow& form) {
+    if (form.Model().Kind() != FormKind::Dialog) return false;
+    if (Button* button = form.Model().CancelButton()) {
+        button->Raise("Click");
+    } else {
+        form.Model().Close();
+    }
+    return true;
+}
+
+}  // namespace
+
+bool ServeFormKeys(const FormWindows& forms, MSG& message) {
+    FormWindow* form = forms.WithHandle(TopLevelOf(message.hwnd));
+    // A form below a modal dialog has no keys.
+    if (form == nullptr || IsWindowEnabled(form->Handle()) == FALSE) return false;
+    if (message.message == WM_KEYDOWN) {
+        FormWindow* page = forms.PageIn(*form);
+        if (RaiseAccelerator(*form, page, message.wParam)) return true;
+        if (message.wParam == VK_RETURN) return OnEnter(*form, page, message.hwnd);
+        if (message.wParam == VK_ESCAPE && OnEscape(*form)) return true;
+    }
+    return IsDialogMessageA(form->Handle(), &message) != FALSE;
+}
+
+}  // namespace velkarix

@@ -1,0 +1,59 @@
+// The native window of one form, with the windows of its controls.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "forms/Form.h"
+#include "forms/win32/ControlWindow.h"
+#include "forms/win32/FormFocus.h"
+#include "forms/win32/FormTimers.h"
+#include "forms/win32/Handles.h"
+
+namespace velkarix {
+
+class FormWindow : public Form::View {
+  public:
+    // A hidden window: inside `parent` when the form is a page, else owned by it.
+    FormWindow(DesktopContext& context, Form& form, HWND parent);
+    ~FormWindow() override;
+    FormWindow(const FormWindow&) = delete;
+    FormWindow& operator=(const FormWindow&) = delete;
+
+    // The procedure of the window class FormClass.
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    HWND Handle() const { return handle_; }
+    Form& Model() const { return form_; }
+    FormFocus& Focus() { return focus_; }
+    // Null when the control isn't of this form.
+    ControlWindow* WindowOf(const Control& control) const;
+    // Parts the window from its form, which may go at once; the window is dead and hidden.
+    void Detach();
+    // The system's colours have changed.
+    void AppearanceChanged();
+
+    void CaptionChanged() override;
+    void CloseAsked() override;
+
+  private:
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT OnControlMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    void OnSize(const Size& inside) const;
+    void OnActivate(bool active);
+    HWND DefaultButton() const;  // null when the form has none
+    void MakeControls();
+    void SetIcons();
+
+    DesktopContext& context_;
+    Form& form_;
+    HWND handle_ = nullptr;
+    bool detached_ = false;
+    std::vector<std::unique_ptr<ControlWindow>> controls_;
+    std::unique_ptr<FormTimers> timers_;
+    FormFocus focus_;
+    OwnedIcon largeIcon_;
+    OwnedIcon smallIcon_;
+};
+
+}  // namespace velkarix

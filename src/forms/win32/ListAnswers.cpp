@@ -1,0 +1,48 @@
+#include "forms/win32/ListAnswers.h"
+
+#include <cstddef>
+#include <optional>
+
+#include "forms/ListSearch.h"
+
+namespace velkarix {
+
+ListRow* RowAt(ListView& list, int position) {
+    const auto index = static_cast<std::size_t>(position);
+    return position >= 0 && index < list.RowCount() ? &list.Row(index) : nullptr;
+}
+
+void DescribeRow(ListView& list, LVITEMA& item) {
+    const ListRow* row = RowAt(list, item.iItem);
+    if (row == nullptr) return;
+    if ((item.mask & LVIF_TEXT) != 0 && item.cchTextMax > 0) {
+        const std::string& text = row->Text(static_cast<std::size_t>(item.iSubItem));
+        lstrcpynA(item.pszText, text.c_str(), item.cchTextMax);
+    }
+    if ((item.mask & LVIF_IMAGE) != 0) item.iImage = static_cast<int>(row->Image()) - 1;
+    if ((item.mask & LVIF_STATE) != 0 && (item.stateMask & LVIS_STATEIMAGEMASK) != 0) {
+        const UINT box = INDEXTOSTATEIMAGEMASK(row->Checked() ? 2U : 1U);
+        item.state = (item.state & ~static_cast<UINT>(LVIS_STATEIMAGEMASK)) | box;
+    }
+}
+
+LRESULT MarkDrawnRow(ListView& list, const Fonts& fonts, NMLVCUSTOMDRAW& draw) {
+    if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+    if (draw.nmcd.dwDrawStage == CDDS_ITEMPREPAINT) return CDRF_NOTIFYSUBITEMDRAW;
+    if (draw.nmcd.dwDrawStage != (CDDS_ITEMPREPAINT | CDDS_SUBITEM)) return CDRF_DODEFAULT;
+    const ListRow* row = RowAt(list, static_cast<int>(draw.nmcd.dwItemSpec));
+    const bool marked = draw.iSubItem == 0 && row != nullptr;
+    const std::optional<Color> colour = marked ? row->TextColor() : std::nullopt;
+    draw.clrText = colour.value_or(GetSysColor(COLOR_WINDOWTEXT));
+    SelectObject(draw.nmcd.hdc, marked && row->Bold() ? fonts.Bold() : fonts.Dialog());
+    return CDRF_NEWFONT;
+}
+
+LRESULT FindTypedRow(ListView& list, const NMLVFINDITEMA& wanted) {
+    if ((wanted.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0) return -1;
+    const auto start = static_cast<std::size_t>(wanted.iStart < 0 ? 0 : wanted.iStart);
+    const std::optional<std::size_t> found = FindRowByPrefix(list, start, wanted.lvfi.psz);
+    return found ? static_cast<LRESULT>(*found) : -1;
+}
+
+}  // namespace velkarix

@@ -1,0 +1,220 @@
+#include "forms/win32/ListViewWindow.h"
+
+#include <cstddef>
+
+#include "forms/win32/ColumnFit.h"
+#include "forms/win32/ListAnswers.h"
+
+namespace velkarix {
+
+namespace {
+
+constexpr int ImageSizeAt96 = 16;
+// A list that composes off screen, where the common controls can (version 6).
+constexpr DWORD DoubleBuffered = 0x00010000;
+constexpr DWORD ExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_CHECKBOXES | DoubleBuffered;
+constexpr DWORD Style = WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS;
+
+}  // namespace
+
+ListViewWindow::ListViewWindow(DesktopContext& context, ListView& list, const ControlPlace& place)
+    : ControlWindow(context, list, place, {WC_LISTVIEWA, Style, WS_EX_CLIENTEDGE}),
+      list_(list),
+      images_(context.instance, context.dpi.Pixels(ImageSizeAt96)) {
+    Send(LVM_SETEXTENDEDLISTVIEWSTYLE, ExtendedStyle, ExtendedStyle);
+    Send(LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK);
+    InsertColumns();
+    context.pending.Add(*this);
+}
+
+void ListViewWindow::Detach() {
+    Context().pending.Remove(*this);
+    // The native list destroys what image lists it has at its end: its check boxes, not ours.
+    Send(LVM_SETIMAGELIST, LVSIL_SMALL, 0);
+    ControlWindow::Detach();
+}
+
+void ListViewWindow::InsertColumns() {
+    for (std::size_t i = 0; i < list_.Columns().size(); ++i) {
+        LVCOLUMNA column{};
+        column.mask = LVCF_SUBITEM;
+        column.iSubItem = static_cast<int>(i);
+        Send(LVM_INSERTCOLUMNA, i, reinterpret_cast<LPARAM>(&column));
+    }
+    ShowCaptions();
+    ShareColumns(Handle(), list_.Columns().size());
+}
+
+void ListViewWindow::ShowCaptions() {
+    for (std::size_t i = 0; i < list_.Columns().size(); ++i) {
+        std::string caption = list_.Columns()[i];
+        LVCOLUMNA column{};
+        column.mask = LVCF_TEXT;
+        column.pszText = caption.data();
+        Send(LVM_SETCOLUMNA, i, reinterpret_cast<LPARAM>(&column));
+    }
+}
+
+void ListViewWindow::Changed(Aspect aspect) {
+    switch (aspect) {
+        case Aspect::Rows:
+            rowsChanged_ = true;
+            break;
+        case Aspect::RowState:
+            break;
+        case Aspect::Selection:
+            selectionChanged_ = true;
+            break;
+        case Aspect::ColumnWidths:
+            fitWanted_ = true;
+            break;
+        case Aspect::Columns:
+            ShowCaptions();
+            return;
+        default:
+            ControlWindow::Changed(aspect);
+            return;
+    }
+    Context().pending.Add(*this);
+}
+
+void ListViewWindow::Refresh() {
+    refreshing_ = true;
+    const ImageList* images = list_.Images();
+    if (images != nullptr) images_.Follow(*images);
+    Send(LVM_SETIMAGELIST, LVSIL_SMALL,
+         reinterpret_cast<LPARAM>(images != nullptr ? images_.Handle() : nullptr));
+    if (rowsChanged_) Send(LVM_SETITEMCOUNT, list_.RowCount(), LVSICF_NOSCROLL);
+    if (fitWanted_) FitColumns(Handle(), list_, Context());
+    if (rowsChanged_ || selectionChanged_) ShowSelection();
+    InvalidateRect(Handle(), nullptr, FALSE);
+    rowsChanged_ = selectionChanged_ = fitWanted_ = refreshing_ = false;
+}
+
+void ListViewWindow::ShowSelection() {
+    LVITEMA item{};
+    item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    Send(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&item));
+    const ListRow* selected = list_.SelectedRow();
+    if (selected == nullptr) return;
+    const std::size_t position = list_.PositionOf(*selected);
+    item.state = item.stateMask;
+    Send(LVM_SETITEMSTATE, position, reinterpret_cast<LPARAM>(&item));
+    if (selectionChanged_) Send(LVM_ENSUREVISIBLE, position, FALSE);
+}
+
+void ListViewWindow::AppearanceChanged() {
+    Send(WM_SYSCOLORCHANGE);
+    InvalidateRect(Handle(), nullptr, TRUE);
+}
+
+LRESULT ListViewWindow::OnNotify(NMHDR& header) {
+    switch (header.code) {
+        case LVN_GETDISPINFOA:
+            DescribeRow(list_, reinterpret_cast<NMLVDISPINFOA&>(header).item);
+            return 0;
+        case NM_CUSTOMDRAW:
+            return MarkDrawnRow(list_, Context().fonts, reinterpret_cast<NMLVCUSTOMDRAW&>(header));
+        case LVN_ODFINDITEMA:
+            return FindTypedRow(list_, reinterpret_cast<NMLVFINDITEMA&>(header));
+        case LVN_ITEMCHANGED:
+            OnItemChanged(reinterpret_cast<NMLISTVIEW&>(header));
+            return 0;
+        case LVN_COLUMNCLICK:
+            list_.UserColumnClick(reinterpret_cast<NMLISTVIEW&>(header).iSubItem + 1);
+            return 0;
+        case LVN_KEYDOWN:
+            OnKey(reinterpret_cast<NMLVKEYDOWN&>(header).wVKey);
+            return 0;
+        case NM_CLICK:
+            OnClick(reinterpret_cast<NMITEMACTIVATE&>(header));
+            return 0;
+        case NM_DBLCLK:
+            OnDoubleClick(reinterpret_cast<NMITEMACTIVATE&>(header));
+            return 0;
+        case NM_RCLICK:
+            // The release of the button itself comes as WM_CONTEXTMENU.
+            if (reinterpret_cast<NMITEMACTIVATE&>(header).iItem < 0) list_.UserSelect(nullptr);
+            return 0;
+        default:
+            return 0;
+    }
+}
+
+LRESULT ListViewWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    // The header's own context menu would come by here as well.
+    if (message == WM_CONTEXTMENU && reinterpret_cast<HWND>(wParam) == Handle()) {
+        OnContextMenu(lParam);
+        return 0;
+    }
+    // Space ticks a row and is no letter to search for.
+    if (message == WM_CHAR && wParam == ' ') return 0;
+    return ControlWindow::OnMessage(message, wParam, lParam);
+}
+
+void ListViewWindow::OnItemChanged(const NMLISTVIEW& change) {
+    const bool cameIn = (change.uNewState & ~change.uOldState & LVIS_SELECTED) != 0;
+    if (refreshing_ || !cameIn) return;
+    ListRow* row = RowAt(list_, change.iItem);
+    // The native list also selects anew what is selected.
+    if (row != nullptr && row != list_.SelectedRow()) list_.UserSelect(row);
+}
+
+void ListViewWindow::OnClick(const NMITEMACTIVATE& click) {
+    if (ToggleIfOnCheckBox(click.ptAction)) return;
+    if (click.iItem < 0) list_.UserSelect(nullptr);
+    list_.UserMouseUp(MouseButton::Left);
+}
+
+void ListViewWindow::OnDoubleClick(const NMITEMACTIVATE& click) {
+    if (!ToggleIfOnCheckBox(click.ptAction)) list_.Raise("DblClick");
+}
+
+void ListViewWindow::OnKey(WORD key) {
+    if (key == VK_SPACE) {
+        Toggle(static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED)));
+    }
+}
+
+bool ListViewWindow::ToggleIfOnCheckBox(const POINT& point) {
+    LVHITTESTINFO hit{};
+    hit.pt = point;
+    Send(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+    if (hit.iItem < 0 || (hit.flags & LVHT_ONITEMSTATEICON) == 0) return false;
+    // A whole row that answers to the mouse sets other bits as well.
+    if ((hit.flags & (LVHT_ONITEMICON | LVHT_ONITEMLABEL)) != 0) return false;
+    Toggle(hit.iItem);
+    return true;
+}
+
+void ListViewWindow::Toggle(int position) {
+    ListRow* row = RowAt(list_, position);
+    if (row == nullptr) return;
+    list_.UserCheck(*row, !row->Checked());
+    Send(LVM_REDRAWITEMS, static_cast<WPARAM>(position), position);
+}
+
+void ListViewWindow::OnContextMenu(LPARAM where) {
+    const bool byKey = where == -1;
+    const POINT atMouse{static_cast<short>(LOWORD(where)), static_cast<short>(HIWORD(where))};
+    // Beyond the life of this list, which the popup's command may end.
+    DesktopContext& context = Context();
+    context.popupPoint = byKey ? BesideFocusedRow() : atMouse;
+    list_.UserMouseUp(MouseButton::Right);
+    context.popupPoint.reset();
+}
+
+POINT ListViewWindow::BesideFocusedRow() const {
+    POINT point{0, 0};
+    const LRESULT focused = Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED);
+    if (focused >= 0) {
+        Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(focused), FALSE);
+        RECT label{LVIR_LABEL, 0, 0, 0};
+        Send(LVM_GETITEMRECT, static_cast<WPARAM>(focused), reinterpret_cast<LPARAM>(&label));
+        point = {label.left, label.bottom};
+    }
+    ClientToScreen(Handle(), &point);
+    return point;
+}
+
+}  // namespace velkarix

@@ -1,0 +1,49 @@
+// A list as the native report list. The native list has no rows of its own: it asks the model for
+// what it shows, so the number of rows costs nothing.
+#pragma once
+
+#include "forms/ListView.h"
+#include "forms/win32/ControlWindow.h"
+#include "forms/win32/ListImages.h"
+#include "forms/win32/PendingRefreshes.h"
+
+namespace velkarix {
+
+class ListViewWindow : public ControlWindow, private Refreshable {
+  public:
+    ListViewWindow(DesktopContext& context, ListView& list, const ControlPlace& place);
+    void Detach() override;
+    void Changed(Aspect aspect) override;
+    LRESULT OnNotify(NMHDR& header) override;
+    void AppearanceChanged() override;
+
+  protected:
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+  private:
+    // The window catches up with the model.
+    void Refresh() override;
+    void InsertColumns();
+    void ShowCaptions();
+    void ShowSelection();
+
+    // What the user did.
+    void OnItemChanged(const NMLISTVIEW& change);
+    void OnClick(const NMITEMACTIVATE& click);
+    void OnDoubleClick(const NMITEMACTIVATE& click);
+    void OnKey(WORD key);
+    void OnContextMenu(LPARAM where);
+
+    bool ToggleIfOnCheckBox(const POINT& point);
+    void Toggle(int position);
+    POINT BesideFocusedRow() const;
+
+    ListView& list_;
+    ListImages images_;
+    bool refreshing_ = false;  // the program changes the window, not the user
+    bool rowsChanged_ = true;
+    bool selectionChanged_ = true;
+    bool fitWanted_ = false;
+};
+
+}  // namespace velkarix

@@ -1,0 +1,103 @@
+#include "forms/win32/Metrics.h"
+
+#include <algorithm>
+
+#include "forms/Controls.h"
+#include "forms/ListView.h"
+#include "forms/win32/Screen.h"
+
+namespace velkarix {
+
+namespace {
+
+// The height, at 96 DPI, that a main window with large page icons wants.
+constexpr int HeightForLargeIcons = 560;
+
+}  // namespace
+
+Metrics::Metrics(const Dpi& dpi, const Fonts& fonts)
+    : dpi_(dpi),
+      fonts_(fonts),
+      pageIconSize_(dpi.Pixels(Height(WorkArea()) < dpi.Pixels(HeightForLargeIcons) ? 32 : 48)) {}
+
+Size Metrics::PreferredSize(Control& control) {
+    size_ = {};
+    control.Accept(*this);
+    return size_;
+}
+
+Insets Metrics::GroupInsets(Control& group) {
+    insets_ = {};
+    group.Accept(*this);
+    return insets_;
+}
+
+Insets Metrics::FormMargins(FormKind kind) {
+    const int margin = dpi_.Pixels(11);
+    // The layout of the main form keeps a gap at the left of and above its page already.
+    const int besideGap = margin - Gap();
+    if (kind == FormKind::Page) return {besideGap, besideGap, margin, margin};
+    if (kind == FormKind::Dialog) return {margin, margin, margin, margin};
+    return {};
+}
+
+void Metrics::Visit(Button& control) {
+    const Size caption = CaptionExtent(fonts_.Dialog(), control.Text());
+    if (control.ButtonLook() == Button::Look::Picture) {
+        const int padding = ButtonPadding();
+        size_ = {std::max(PageIconSize(), caption.width) + 8 * padding,
+                 PageIconSize() + caption.height + 3 * padding};
+        return;
+    }
+    size_ = {std::max(dpi_.Pixels(75), caption.width + dpi_.Pixels(20)),
+             std::max(dpi_.Pixels(23), caption.height + dpi_.Pixels(8))};
+}
+
+void Metrics::Visit(Frame&) {
+    const int edge = dpi_.Pixels(9);
+    insets_ = {edge, CaptionExtent(fonts_.Dialog(), {}).height + dpi_.Pixels(6), edge, edge};
+}
+
+void Metrics::Visit(Panel& control) {
+    const int edge = dpi_.Pixels(6);
+    const int side = dpi_.Pixels(12);
+    insets_ = control.PanelLook() == Panel::Look::Banner
+                  ? Insets{side, edge, side, edge + BannerLine()}
+                  : Insets{0, edge, 0, edge};
+}
+
+void Metrics::Visit(Label& control) {
+    const bool title = control.LabelLook() == Label::Look::Title;
+    size_ = TextExtent(title ? fonts_.Title() : fonts_.Dialog(), control.Text());
+}
+
+void Metrics::Visit(LinkLabel& control) {
+    const Size caption = CaptionExtent(fonts_.Link(), control.Text());
+    // Room for the focus rectangle.
+    size_ = {caption.width + dpi_.Pixels(6), caption.height + dpi_.Pixels(4)};
+}
+
+void Metrics::Visit(ListView&) {
+    size_ = {dpi_.Pixels(200), dpi_.Pixels(100)};
+}
+
+void Metrics::Visit(OptionButton& control) {
+    const Size caption = CaptionExtent(fonts_.Dialog(), control.Text());
+    size_ = {caption.width + dpi_.Pixels(24), std::max(dpi_.Pixels(17), caption.height)};
+}
+
+// The page on view has what room is left.
+void Metrics::Visit(PageHost&) {}
+
+void Metrics::Visit(PictureBox& control) {
+    size_ = {dpi_.Pixels(control.PictureSize()), dpi_.Pixels(control.PictureSize())};
+}
+
+void Metrics::Visit(TextBox& control) {
+    const TextBox::Shape& shape = control.BoxShape();
+    const int line = CaptionExtent(fonts_.Dialog(), {}).height;
+    size_ = {shape.widthInCharacters * AverageCharacterWidth(fonts_.Dialog()) + dpi_.Pixels(12),
+             shape.lines * line + dpi_.Pixels(8)};
+}
+
+}  // namespace velkarix

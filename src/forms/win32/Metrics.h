@@ -1,0 +1,45 @@
+// The sizes of controls and distances, from the dialog font and the machine's DPI.
+#pragma once
+
+#include "forms/ControlVisitor.h"
+#include "forms/Form.h"
+#include "forms/Layout.h"
+#include "forms/win32/Dpi.h"
+#include "forms/win32/Fonts.h"
+
+namespace velkarix {
+
+class Metrics : public LayoutMetrics, private ControlVisitor {
+  public:
+    Metrics(const Dpi& dpi, const Fonts& fonts);
+
+    Size PreferredSize(Control& control) override;
+    Insets GroupInsets(Control& group) override;
+    int Gap() override { return dpi_.Pixels(7); }
+
+    // Between the edges of a form and its layout.
+    Insets FormMargins(FormKind kind);
+    int PageIconSize() const { return pageIconSize_; }    // on a picture button
+    int BannerLine() const { return dpi_.Pixels(3); }     // along the lower edge of the banner
+    int ButtonPadding() const { return dpi_.Pixels(2); }  // around icon and text of such a button
+
+  private:
+    void Visit(Button& control) override;
+    void Visit(Frame& control) override;
+    void Visit(Label& control) override;
+    void Visit(LinkLabel& control) override;
+    void Visit(ListView& control) override;
+    void Visit(OptionButton& control) override;
+    void Visit(PageHost& control) override;
+    void Visit(Panel& control) override;
+    void Visit(PictureBox& control) override;
+    void Visit(TextBox& control) override;
+
+    const Dpi& dpi_;
+    const Fonts& fonts_;
+    int pageIconSize_;
+    Size size_;      // what the last visit found
+    Insets insets_;  // likewise, of a group
+};
+
+}  // namespace velkarix

@@ -1,0 +1,143 @@
+#include "forms/win32/Win32Desktop.h"
+
+#include "forms/win32/ApplicationWindow.h"
+#include "forms/win32/EventLoop.h"
+#include "forms/win32/FormFrame.h"
+#include "forms/win32/FormWindows.h"
+#include "forms/win32/LateCalls.h"
+#include "forms/win32/MessageBoxes.h"
+#include "forms/win32/PopupMenus.h"
+#include "forms/win32/WindowClasses.h"
+#include "forms/win32/WindowTree.h"
+
+namespace velkarix {
+
+struct Win32Desktop::Windows {
+    explicit Windows(HINSTANCE instance)
+        : context(instance),
+          formClass(instance, FormClass, FormWindow::Procedure),
+          areaClass(instance, AreaClass, DefWindowProcA) {}
+
+    DesktopContext context;
+    WindowClass formClass;
+    WindowClass areaClass;
+    FormWindows forms{context};
+    ApplicationWindow application{context, forms};
+    EventLoop loop{context, forms};
+
+    HWND HostOf(const FormWindow& page) const { return GetParent(page.Handle()); }
+    FormWindow* FormAround(HWND window) const { return forms.WithHandle(TopLevelOf(window)); }
+
+    // The form that the user works in, to own what is asked of him; null when none is shown.
+    HWND ActiveForm() const {
+        const FormWindow* active = forms.WithHandle(GetActiveWindow());
+        if (active == nullptr) active = forms.Main();
+        return active != nullptr && IsWindowVisible(active->Handle()) != FALSE ? active->Handle()
+                                                                               : nullptr;
+    }
+};
+
+Win32Desktop::Win32Desktop(void* instance) {
+    RegisterCommonControls();
+    windows_ = std::make_unique<Windows>(instance != nullptr ? static_cast<HINSTANCE>(instance)
+                                                             : GetModuleHandleA(nullptr));
+}
+
+Win32Desktop::~Win32Desktop() = default;
+
+void Win32Desktop::SetApplicationTitle(const std::string& title) {
+    SetWindowTextA(windows_->context.applicationWindow, title.c_str());
+}
+
+void Win32Desktop::Create(Form& form, PageHost* host) {
+    HWND parent = windows_->context.applicationWindow;
+    if (const ControlWindow* place = host != nullptr ? windows_->forms.WindowOf(*host) : nullptr) {
+        parent = place->Handle();
+    }
+    windows_->forms.Add(form, parent);
+}
+
+void Win32Desktop::Show(Form& form) {
+    FormWindow* window = windows_->forms.Of(form);
+    if (window == nullptr) return;
+    windows_->context.pending.Run();
+    if (form.Kind() != FormKind::Page) {
+        ShowWindow(window->Handle(), SW_SHOW);
+        return;
+    }
+    ShowWindow(window->Handle(), SW_SHOWNA);
+    if (FormWindow* around = windows_->FormAround(window->Handle())) {
+        around->Focus().Enter(around->Handle(), window->Handle(), windows_->HostOf(*window));
+    }
+}
+
+void Win32Desktop::ShowModal(Form& form, Form& owner) {
+    const FormWindow* dialog = windows_->forms.Of(form);
+    const FormWindow* below = windows_->forms.Of(owner);
+    if (dialog == nullptr || below == nullptr || form.Closing()) return;
+    const HWND around = TopLevelOf(below->Handle());
+    SetWindowLongPtrA(dialog->Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(around));
+    CentreOver(dialog->Handle(), around);
+    const bool wasEnabled = EnableWindow(around, FALSE) == FALSE;
+    ShowWindow(dialog->Handle(), SW_SHOW);
+    windows_->loop.Run([&form] { return form.Closing(); });
+    // The owner first: a dialog that goes hands its activity to an enabled owner only.
+    if (wasEnabled) EnableWindow(around, TRUE);
+    ShowWindow(dialog->Handle(), SW_HIDE);
+}
+
+void Win32Desktop::Destroy(Form& form) {
+    FormWindow* window = windows_->forms.Of(form);
+    if (window == nullptr) return;
+    if (form.Kind() == FormKind::Page) {
+        if (FormWindow* around = windows_->FormAround(window->Handle())) {
+            around->Focus().Leave(window->Handle(), windows_->HostOf(*window));
+        }
+    }
+    windows_->forms.Remove(*window);
+}
+
+std::uintptr_t Win32Desktop::HandleOf(const Form& form) {
+    const FormWindow* window = windows_->forms.Of(form);
+    return window != nullptr ? reinterpret_cast<std::uintptr_t>(window->Handle()) : 0;
+}
+
+void Win32Desktop::Focus(Control& control) {
+    const ControlWindow* window = windows_->forms.WindowOf(control);
+    if (window == nullptr) return;
+    if (FormWindow* around = windows_->FormAround(window->Handle())) {
+        around->Focus().Give(around->Handle(), window->Handle());
+    }
+}
+
+MessageAnswer Win32Desktop::ShowMessage(const Message& message) {
+    windows_->context.pending.Run();
+    return ShowMessageBox(windows_->ActiveForm(), message);
+}
+
+std::optional<std::string> Win32Desktop::PopUp(Form& owner, const Menu& menu) {
+    const FormWindow* window = windows_->forms.Of(owner);
+    if (window == nullptr) return std::nullopt;
+    windows_->context.pending.Run();
+    const DWORD mouse = GetMessagePos();
+    const POINT atMouse{static_cast<short>(LOWORD(mouse)), static_cast<short>(HIWORD(mouse))};
+    return TrackPopup(TopLevelOf(window->Handle()), menu,
+                      windows_->context.popupPoint.value_or(atMouse));
+}
+
+void Win32Desktop::RunEventLoop() {
+    windows_->loop.Run([this] {
+        const FormWindow* main = windows_->forms.Main();
+        return main == nullptr || main->Model().Closing();
+    });
+}
+
+void Win32Desktop::Quit() {
+    windows_->loop.Quit();
+}
+
+void Win32Desktop::YieldEvents() {
+    windows_->loop.RunWaiting();
+}
+
+}  // namespace velkarix
