@@ -68,6 +68,12 @@ TEST_P(ClockConformance, ATimeOfDayIsTheFraction) {
     EXPECT_EQ(clock_.VarDateFromStr("2004-06-01 18:00"), 38139.75);
 }
 
+TEST_P(ClockConformance, BlanksAroundADateAndSmallLettersDoNotCount) {
+    EXPECT_EQ(clock_.VarDateFromStr("  6/1/2004 "), 38139.0);
+    EXPECT_EQ(clock_.VarDateFromStr("6/1/2004 6:00 pm"), 38139.75);
+    EXPECT_EQ(clock_.VarDateFromStr("6/1/2004 6:00PM"), 38139.75);
+}
+
 TEST_P(ClockConformance, OtherTextsAreNoDates) {
     for (const char* text :
          {"", "***", "yesterday", "2/30/2004", "13/32/2004", "6/1/2004 25:00", "6/1/2004 noon"}) {

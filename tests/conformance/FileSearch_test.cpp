@@ -54,6 +54,15 @@ TEST_P(SearchConformance, PatternsFitWithoutCase) {
     EXPECT_EQ(Names(In("*.none")), std::vector<std::string>());
 }
 
+TEST_P(SearchConformance, AQuestionMarkStandsForOneCharacter) {
+    // At the end of a name Windows lets it stand for none as well, Wine doesn't.
+    for (const char* name : {"b.txt", "ab.txt", "aab.txt"}) {
+        home_->MakeFile(In(name), "");
+    }
+    EXPECT_EQ(Names(In("?b.txt")), std::vector<std::string>{"ab.txt"});
+    EXPECT_EQ(Names(In("?a?.txt")), std::vector<std::string>{"aab.txt"});
+}
+
 TEST_P(SearchConformance, APatternWithoutWildcardFindsTheOneEntryInItsOwnSpelling) {
     home_->MakeFile(In("MixedCase.txt"), "12345");
     files_.CreateDirectoryA(In("Folder"));
@@ -68,6 +77,7 @@ TEST_P(SearchConformance, AShortNameIsFoundUnderItsLongOne) {
     ASSERT_NE(shortPath, In("a rather long name.text"));
     EXPECT_EQ(Names(shortPath), std::vector<std::string>{"a rather long name.text"});
     EXPECT_EQ(files_.PathFileExistsA(shortPath), true);
+    EXPECT_EQ(Names(In("*~*")), std::vector<std::string>{"a rather long name.text"});
 }
 
 TEST_P(SearchConformance, AnEntryTellsItsSizeAttributesAndCreationTime) {

@@ -59,6 +59,37 @@ TEST_P(FileConformance, SlashesDotsAndDoubledBackslashesLeadToTheSameFile) {
     EXPECT_EQ(files_.PathFileExistsA(In(".\\File.txt")), true);
 }
 
+TEST_P(FileConformance, BlanksAndDotsAtTheEndOfANameDoNotCount) {
+    home_->MakeFile(In("File.txt"), "");
+    EXPECT_EQ(files_.PathFileExistsA(In("File.txt.")), true);
+    EXPECT_EQ(files_.PathFileExistsA(In("File.txt ")), true);
+}
+
+TEST_P(FileConformance, ARelativePathStartsFromTheCurrentFolder) {
+    home_->MakeFile(In("File.txt"), "");
+    files_.CreateDirectoryA(In("Sub"));
+    home_->SetCurrentFolder(In("Sub"));
+    EXPECT_EQ(files_.PathFileExistsA("File.txt"), false);
+    EXPECT_EQ(files_.PathFileExistsA("..\\File.txt"), true);
+    home_->SetCurrentFolder(folder_);
+    EXPECT_EQ(files_.PathFileExistsA("File.txt"), true);
+    EXPECT_EQ(files_.PathFileExistsA(In("File.txt").substr(2)), true);
+}
+
+TEST_P(FileConformance, APathMayHave259Bytes) {
+    // Windows takes no longer one. Wine does, so the limit itself isn't asserted here.
+    const std::string longest = In(std::string(259 - folder_.size() - 1, 'p'));
+    EXPECT_EQ(Open(longest, FileUse::Replace), error::Success);
+    EXPECT_EQ(files_.PathFileExistsA(longest), true);
+}
+
+TEST_P(FileConformance, TheRootOfADriveIsAFolder) {
+    const std::string root = folder_.substr(0, 3);
+    EXPECT_EQ(files_.PathFileExistsA(root), true);
+    EXPECT_NE(files_.GetFileAttributesA(root) & fileAttribute::Directory, 0u);
+    EXPECT_EQ(files_.PathFileExistsA(home_->MissingDrive() + "\\"), false);
+}
+
 TEST_P(FileConformance, AttributesTellFilesFromFolders) {
     home_->MakeFile(In("file.txt"), "", fileAttribute::ReadOnly);
     EXPECT_NE(files_.GetFileAttributesA(In("file.txt")) & fileAttribute::ReadOnly, 0u);
@@ -85,7 +116,21 @@ TEST_P(FileConformance, OpeningTellsAMissingFileFromAMissingFolder) {
     EXPECT_EQ(Open(In("missing\\file.txt"), FileUse::Read), error::PathNotFound);
     EXPECT_EQ(Open(In("missing\\file.txt"), FileUse::Replace), error::PathNotFound);
     EXPECT_EQ(Open(In("missing\\file.txt"), FileUse::Append), error::PathNotFound);
+}
+
+TEST_P(FileConformance, NothingIsOpenedOrMadeOnAMissingDrive) {
+    // Windows tells that the path is missing, Wine that the file is.
+    EXPECT_NE(Open(home_->MissingDrive() + "\\file.txt", FileUse::Read), error::Success);
     EXPECT_NE(Open(home_->MissingDrive() + "\\file.txt", FileUse::Replace), error::Success);
+    EXPECT_NE(files_.CreateDirectoryA(home_->MissingDrive() + "\\Folder"), error::Success);
+}
+
+TEST_P(FileConformance, AFileIsNoFolder) {
+    home_->MakeFile(In("file.txt"), "");
+    EXPECT_EQ(Open(In("file.txt\\below"), FileUse::Read), error::PathNotFound);
+    EXPECT_EQ(Open(In("file.txt\\below"), FileUse::Replace), error::PathNotFound);
+    EXPECT_EQ(files_.CreateDirectoryA(In("file.txt\\below")), error::PathNotFound);
+    EXPECT_EQ(files_.PathFileExistsA(In("file.txt\\below")), false);
 }
 
 TEST_P(FileConformance, AFolderIsNotOpenedAsAFile) {
@@ -174,6 +219,25 @@ TEST_P(FileConformance, TwoReadersShareAFile) {
     ASSERT_EQ(files_.CreateFileA(In("file.txt"), FileUse::Read, first), error::Success);
     EXPECT_EQ(Open(In("file.txt"), FileUse::Read), error::Success);
     files_.CloseFile(first);
+}
+
+TEST_P(FileConformance, OneWriterSharesAFileWithReadersButNotWithAnotherWriter) {
+    FileHandle writer = 0;
+    ASSERT_EQ(files_.CreateFileA(In("file.txt"), FileUse::Replace, writer), error::Success);
+    EXPECT_EQ(Open(In("file.txt"), FileUse::Read), error::Success);
+    EXPECT_EQ(Open(In("file.txt"), FileUse::Replace), error::SharingViolation);
+    EXPECT_EQ(Open(In("file.txt"), FileUse::Append), error::SharingViolation);
+    files_.CloseFile(writer);
+    EXPECT_EQ(Open(In("file.txt"), FileUse::Append), error::Success);
+}
+
+TEST_P(FileConformance, AWriterMayComeWhileAReaderIsThere) {
+    home_->MakeFile(In("file.txt"), "text");
+    FileHandle reader = 0;
+    ASSERT_EQ(files_.CreateFileA(In("file.txt"), FileUse::Read, reader), error::Success);
+    EXPECT_EQ(Write(In("file.txt"), FileUse::Append, "!"), error::Success);
+    EXPECT_EQ(files_.GetFileSize(reader), 5u);
+    files_.CloseFile(reader);
 }
 
 TEST_P(FileConformance, AHandleServesOnlyWhatItWasOpenedFor) {

@@ -25,6 +25,9 @@ class Home {
     virtual std::string ScratchFolder() = 0;
     // A key below HKEY_CURRENT_USER that is there and empty.
     virtual std::string ScratchKey() = 0;
+    // Puts a text (REG_SZ) without its NUL into the scratch key, as only other ways into the
+    // registry can.
+    virtual void MakeUnendedText(const std::string& name, const std::string& text) = 0;
 
     // Makes a file with these bytes and the attributes of fileAttribute besides its own.
     virtual void MakeFile(const std::string& path, const std::string& content,
@@ -40,6 +43,10 @@ class Home {
     // Whether the read-only attribute keeps this process from writing: not for the root user of
     // a Wine.
     virtual bool KeepsReadOnly() = 0;
+    // What relative paths start from, for the rest of the test.
+    virtual void SetCurrentFolder(const std::string& path) = 0;
+    // A file with a version resource in US English (040904B0) that tells a FileVersion.
+    virtual std::string VersionedFile() = 0;
     // A drive letter with its colon that no drive has.
     virtual std::string MissingDrive() = 0;
 
@@ -59,10 +66,10 @@ class Home {
 std::vector<Family> FamiliesOfHome();
 std::unique_ptr<Home> MakeHome(Family family);
 
-// For what only the NT family has.
-inline std::vector<Family> NtFamilyOfHome() {
+// For what only one family has: that family alone, or none where the home isn't of it.
+inline std::vector<Family> Only(Family family) {
     std::vector<Family> families = FamiliesOfHome();
-    std::erase(families, Family::Windows95);
+    std::erase_if(families, [&](Family other) { return other != family; });
     return families;
 }
 

@@ -39,7 +39,7 @@ INSTANTIATE_TEST_SUITE_P(Home, ProcessConformance, testing::ValuesIn(FamiliesOfH
 class ModuleConformance : public ProcessConformance {};
 
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(ModuleConformance);
-INSTANTIATE_TEST_SUITE_P(Home, ModuleConformance, testing::ValuesIn(NtFamilyOfHome()),
+INSTANTIATE_TEST_SUITE_P(Home, ModuleConformance, testing::ValuesIn(Only(Family::WindowsNt)),
                          NameOfFamily);
 
 TEST_P(ProcessConformance, OneWayOfListingIsThere) {

@@ -77,6 +77,7 @@ TEST_P(ProfileConformance, AValueIsCutToTheBufferWithItsNul) {
     EXPECT_EQ(Get("Main", "Key", "", 255), std::string(254, 'v'));
     EXPECT_EQ(Get("Main", "Key", "", 2), "v");
     EXPECT_EQ(Get("Main", "Key", "", 1), "");
+    EXPECT_EQ(Get("Main", "Key", "", 0), "");
     EXPECT_EQ(Get("Main", "Missing", "fallback", 5), "fall");
 }
 
@@ -90,6 +91,22 @@ TEST_P(ProfileConformance, LinesThatAreNeitherSectionNorValueAreSkipped) {
     home_->MakeFile(file_,
                     "loose\r\n[Main]\r\n; Key=comment\r\nnonsense\r\n=nameless\r\n\x01\xFF\r\n"
                     "\r\nKey=1\r\n");
+    EXPECT_EQ(Get("Main", "Key"), "1");
+}
+
+TEST_P(ProfileConformance, ANameWithoutEqualsSignIsNoKey) {
+    home_->MakeFile(file_, "[Main]\r\nKey\r\n");
+    EXPECT_EQ(Get("Main", "Key"), "(missing)");
+}
+
+TEST_P(ProfileConformance, ASectionsHeadEndsWithItsBracket) {
+    home_->MakeFile(file_, "[Main] text behind\r\nKey=1\r\n[Open\r\nKey=2\r\n");
+    EXPECT_EQ(Get("Main", "Key"), "1");
+    EXPECT_EQ(Get("Open", "Key"), "(missing)");
+}
+
+TEST_P(ProfileConformance, BlanksInsideTheBracketsDoNotCount) {
+    home_->MakeFile(file_, "[ Main ]\r\nKey=1\r\n");
     EXPECT_EQ(Get("Main", "Key"), "1");
 }
 
@@ -182,6 +199,13 @@ TEST_P(ProfileConformance, AReadOnlyFileIsNotWritten) {
     EXPECT_FALSE(Write("Main", "Key", "2"));
     EXPECT_EQ(home_->ContentOf(file_), "[Main]\r\nKey=1\r\n");
     EXPECT_EQ(Get("Main", "Key"), "1");
+}
+
+TEST_P(ProfileConformance, AFileThatSomebodyHoldsForHimselfIsNeitherReadNorWritten) {
+    home_->MakeFile(file_, "[Main]\r\nKey=1\r\n");
+    home_->Lock(file_);
+    EXPECT_EQ(Get("Main", "Key"), "(missing)");
+    EXPECT_FALSE(Write("Main", "Key", "2"));
 }
 
 TEST_P(ProfileConformance, AFileInAMissingFolderIsNotWritten) {

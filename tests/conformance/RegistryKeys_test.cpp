@@ -61,6 +61,10 @@ TEST_P(RegistryConformance, AnEmptyPathOpensTheKeyAgain) {
     ASSERT_EQ(registry_.RegOpenKeyA(scratch_, "", again), error::Success);
     EXPECT_EQ(SubKeys(again), (std::vector<std::string>{"Below"}));
     EXPECT_EQ(registry_.RegCloseKey(again), error::Success);
+    EXPECT_EQ(SubKeys(scratch_), (std::vector<std::string>{"Below"}));
+    ASSERT_EQ(registry_.RegCreateKeyA(scratch_, "", again), error::Success);
+    EXPECT_EQ(SubKeys(again), (std::vector<std::string>{"Below"}));
+    EXPECT_EQ(registry_.RegCloseKey(again), error::Success);
 }
 
 TEST_P(RegistryConformance, AKeyNameMayHave255Bytes) {
@@ -108,7 +112,8 @@ TEST_P(RegistryConformance, AKeyWithoutSubKeysIsDeleted) {
 }
 
 TEST_P(RegistryConformance, TheFamilyDecidesWhatBecomesOfAKeyWithSubKeys) {
-    Create("Tree\\Branch\\Leaf");
+    const KeyHandle leaf = Created("Tree\\Branch\\Leaf");
+    std::string name;
     const ErrorCode result = registry_.RegDeleteKeyA(scratch_, "Tree");
     if (IsNt()) {
         EXPECT_EQ(result, error::AccessDenied);
@@ -116,7 +121,14 @@ TEST_P(RegistryConformance, TheFamilyDecidesWhatBecomesOfAKeyWithSubKeys) {
     } else {
         EXPECT_EQ(result, error::Success);
         EXPECT_EQ(Open("Tree"), error::FileNotFound);
+        EXPECT_EQ(registry_.RegEnumKeyExA(leaf, 0, 256, name), error::KeyDeleted);
     }
+}
+
+TEST_P(RegistryConformance, AnEmptyPathDeletesTheKeyOfTheHandle) {
+    const KeyHandle key = Created("Key");
+    EXPECT_EQ(registry_.RegDeleteKeyA(key, ""), error::Success);
+    EXPECT_EQ(Open("Key"), error::FileNotFound);
 }
 
 TEST_P(RegistryConformance, ValuesDoNotHinderDeletingAKey) {
@@ -197,6 +209,12 @@ TEST_P(RegistryConformance, AHandleGivesOnlyTheRightsItWasOpenedWith) {
     }
     EXPECT_EQ(registry_.RegQueryValueExA(reading, "Value", type, nullptr, size), error::Success);
     EXPECT_EQ(registry_.RegDeleteValueA(writing, "Value"), error::Success);
+    // What a path leads to is opened with rights of its own.
+    KeyHandle below = 0;
+    ASSERT_EQ(registry_.RegCreateKeyA(reading, "Below", below), error::Success);
+    EXPECT_EQ(registry_.RegSetValueExA(below, "Value", registryType::Sz, {0}), error::Success);
+    EXPECT_EQ(registry_.RegCloseKey(below), error::Success);
+    EXPECT_EQ(registry_.RegDeleteKeyA(reading, "Below"), error::Success);
 }
 
 }  // namespace velkarix

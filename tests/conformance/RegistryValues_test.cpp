@@ -17,6 +17,16 @@ Bytes Text(const std::string& text) {
 
 }  // namespace
 
+class NtRegistryConformance : public RegistryConformance {};
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(NtRegistryConformance);
+INSTANTIATE_TEST_SUITE_P(Home, NtRegistryConformance, testing::ValuesIn(Only(Family::WindowsNt)),
+                         NameOfFamily);
+
+class Windows95RegistryConformance : public RegistryConformance {};
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Windows95RegistryConformance);
+INSTANTIATE_TEST_SUITE_P(Home, Windows95RegistryConformance,
+                         testing::ValuesIn(Only(Family::Windows95)), NameOfFamily);
+
 TEST_P(RegistryConformance, AValueIsAskedForWithoutCase) {
     registry_.RegSetValueExA(scratch_, "Name", registryType::Sz, Text("a"));
     EXPECT_EQ(ValueOf(scratch_, "NAME"), Text("a"));
@@ -130,6 +140,42 @@ TEST_P(RegistryConformance, TextsOfAllKindsKeepTheirBytes) {
     EXPECT_EQ(ValueOf(scratch_, "Empty"), Text(""));
 }
 
+TEST_P(NtRegistryConformance, TheNulOfATextIsStoredThoughItWasNotCounted) {
+    for (const std::uint32_t type :
+         {registryType::Sz, registryType::ExpandSz, registryType::MultiSz}) {
+        registry_.RegSetValueExA(scratch_, "Name", type, {'a', 'b'});
+        EXPECT_EQ(ValueOf(scratch_, "Name"), Text("ab")) << type;
+        registry_.RegSetValueExA(scratch_, "Name", type, {'a', 0, 'b'});
+        EXPECT_EQ(ValueOf(scratch_, "Name"), (Bytes{'a', 0, 'b', 0})) << type;
+        registry_.RegSetValueExA(scratch_, "Name", type, {});
+        EXPECT_EQ(ValueOf(scratch_, "Name"), Bytes()) << type;
+    }
+}
+
+TEST_P(Windows95RegistryConformance, ASimpleTextIsStoredUpToItsNulWhateverTheSize) {
+    for (const Bytes& data : {Bytes{'a', 'b'}, Bytes{'a', 'b', 0}, Bytes{'a', 'b', 0, 'c'}}) {
+        registry_.RegSetValueExA(scratch_, "Name", registryType::Sz, data);
+        EXPECT_EQ(ValueOf(scratch_, "Name"), Text("ab"));
+    }
+    registry_.RegSetValueExA(scratch_, "Name", registryType::Sz, {});
+    EXPECT_EQ(ValueOf(scratch_, "Name"), Text(""));
+    registry_.RegSetValueExA(scratch_, "Name", registryType::ExpandSz, {'a', 'b'});
+    EXPECT_EQ(ValueOf(scratch_, "Name"), (Bytes{'a', 'b'}));
+}
+
+TEST_P(NtRegistryConformance, ATextStoredWithoutItsNulGetsOneBehindItWhereThereIsRoom) {
+    home_->MakeUnendedText("Name", "ab");
+    std::uint32_t type = 0;
+    std::uint32_t size = 0;
+    Bytes buffer(4, 0xEE);
+    ASSERT_EQ(registry_.RegQueryValueExA(scratch_, "Name", type, &buffer, size), error::Success);
+    EXPECT_EQ(size, 2u);
+    EXPECT_EQ(buffer, (Bytes{'a', 'b', 0, 0xEE}));
+    buffer.assign(2, 0xEE);
+    ASSERT_EQ(registry_.RegQueryValueExA(scratch_, "Name", type, &buffer, size), error::Success);
+    EXPECT_EQ(buffer, (Bytes{'a', 'b'}));
+}
+
 TEST_P(RegistryConformance, EveryValueIsListedOnce) {
     // In which order, no system promises: NT lists values as they were written, Wine by name.
     const std::vector<std::string> names = {"gamma", "Alpha", "beta"};
@@ -214,6 +260,14 @@ TEST_P(RegistryConformance, CopyingAKeyCopiesValuesAndSubKeysToAnyDepth) {
     EXPECT_EQ(ValueOf(destination, "Own"), Bytes{5});
     EXPECT_EQ(ValueOf(Opened("Destination\\One\\Two", KeyAccess::Read), "Deep"), Bytes{9});
     EXPECT_EQ(ValueOf(Opened("Source\\One\\Two", KeyAccess::Read), "Deep"), Bytes{9});
+}
+
+TEST_P(RegistryConformance, CopyingWithAnEmptyPathCopiesTheKeyItself) {
+    const KeyHandle source = Created("Source");
+    registry_.RegSetValueExA(source, "Name", registryType::Binary, {1});
+    const KeyHandle destination = Created("Destination");
+    ASSERT_EQ(registry_.SHCopyKeyA(source, "", destination), error::Success);
+    EXPECT_EQ(ValueOf(destination, "Name"), Bytes{1});
 }
 
 TEST_P(RegistryConformance, CopyingNeedsOnlyTheRightToWrite) {

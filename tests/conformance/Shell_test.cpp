@@ -26,11 +26,24 @@ TEST_P(ShellConformance, AProgramInTheSystemFolderStartsByItsNameAlone) {
     EXPECT_GT(shell_.WinExec(name.substr(0, name.size() - 4), 0), 31u);
 }
 
+TEST_P(ShellConformance, APathWithBlanksStartsWithoutQuotesToo) {
+    machine_.files.CreateDirectoryA(In("two words"));
+    const std::string path = In("two words\\my quiet.exe");
+    home_->MakeFile(path, home_->ContentOf(home_->QuietProgram()));
+    EXPECT_GT(shell_.WinExec(path, 0), 31u);
+    EXPECT_GT(shell_.WinExec("\"" + path + "\"", 0), 31u);
+}
+
 TEST_P(ShellConformance, WhatIsMissingDoesNotStart) {
     EXPECT_EQ(shell_.WinExec(In("missing.exe"), 0), error::FileNotFound);
     EXPECT_EQ(shell_.WinExec("\"" + In("missing.exe") + "\" /s", 0), error::FileNotFound);
     EXPECT_EQ(shell_.WinExec("velkarixmissing.exe", 0), error::FileNotFound);
     EXPECT_EQ(shell_.ShellExecuteA(0, "open", In("missing.exe"), "", "", 1), error::FileNotFound);
+}
+
+TEST_P(ShellConformance, NothingStartsFromAMissingFolder) {
+    // Windows tells a missing folder (3) from a missing file, Wine doesn't.
+    EXPECT_LE(shell_.WinExec(In("missing\\missing.exe"), 0), 31u);
 }
 
 TEST_P(ShellConformance, AnIconComesInTwoSizes) {

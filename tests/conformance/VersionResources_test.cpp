@@ -104,6 +104,20 @@ TEST_P(VersionConformance, ABlockCutAnywhereIsNeverReadBeyondItsEnd) {
     }
 }
 
+TEST_P(VersionConformance, AFilesResourceIsReadWhole) {
+    const std::string path = home_->VersionedFile();
+    const std::uint32_t size = versions_.GetFileVersionInfoSizeA(path);
+    ASSERT_GT(size, 0u);
+    const auto block = versions_.GetFileVersionInfoA(path, size);
+    ASSERT_TRUE(block.has_value());
+    EXPECT_EQ(versions_.VerQueryValueA(*block, translation), (Bytes{0x09, 0x04, 0xB0, 0x04}));
+    const auto version =
+        versions_.VerQueryValueA(*block, "\\StringFileInfo\\040904B0\\FileVersion");
+    ASSERT_TRUE(version.has_value());
+    EXPECT_GT(version->size(), 1u);
+    EXPECT_EQ(version->back(), 0);
+}
+
 TEST_P(VersionConformance, AFileWithoutAResourceHasNone) {
     home_->MakeFile(In("file.txt"), "no resource");
     EXPECT_EQ(versions_.GetFileVersionInfoSizeA(In("file.txt")), 0u);

@@ -10,6 +10,7 @@ constexpr std::uint32_t maximise = 61488;  // the command number of the system m
 constexpr std::uint32_t maskState = 1;
 constexpr std::uint32_t maskId = 2;
 constexpr std::uint32_t previous = 3;  // GW_HWNDPREV
+constexpr std::uint32_t next = 2;      // GW_HWNDNEXT
 constexpr int style = -16;
 
 }  // namespace
@@ -51,6 +52,7 @@ TEST_P(WindowConformance, TheNewerOfTwoWindowsStandsBefore) {
     const WindowHandle older = home_->MakeWindow(windowClass, "Older");
     const WindowHandle newer = home_->MakeWindow(windowClass, "Newer");
     EXPECT_EQ(windows_.GetWindow(older, previous), newer);
+    EXPECT_EQ(windows_.GetWindow(newer, next), older);
     EXPECT_EQ(windows_.GetWindow(0, previous), 0u);
 }
 

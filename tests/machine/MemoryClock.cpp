@@ -1,8 +1,11 @@
 #include "tests/machine/MemoryClock.h"
 
+#include <algorithm>
 #include <cctype>
 #include <chrono>
 #include <string_view>
+
+#include "tests/machine/CaseFold.h"
 
 namespace velkarix {
 namespace {
@@ -134,7 +137,10 @@ std::optional<OleDate> MemoryClock::VarDateFromStr(const std::string& text) {
     if (journal_.Enter("VarDateFromStr", text) || !hasAutomation_) {
         return std::nullopt;
     }
-    std::string_view rest = text;
+    const std::string folded = FoldCase(text);
+    std::string_view rest = folded;
+    rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
+    rest.remove_suffix(rest.size() - (rest.find_last_not_of(' ') + 1));
     const std::chrono::year_month_day date = TakeDate(rest);
     const int seconds = rest.empty() ? 0 : (Take(rest, " ") ? TakeTime(rest) : -1);
     if (!date.ok() || seconds < 0) {

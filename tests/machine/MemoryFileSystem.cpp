@@ -96,6 +96,12 @@ ErrorCode MemoryFileSystem::CreateDirectoryA(const std::string& path) {
     return error::Success;
 }
 
+bool MemoryFileSystem::IsBeingWritten(const MemoryEntry& entry) const {
+    return std::any_of(files_.begin(), files_.end(), [&](const auto& open) {
+        return open.second.entry.get() == &entry && open.second.use != FileUse::Read;
+    });
+}
+
 ErrorCode MemoryFileSystem::CreateFileA(const std::string& path, FileUse use, FileHandle& file) {
     if (const ErrorCode failure = journal_.Enter("CreateFileA", path)) {
         return failure;
@@ -106,6 +112,9 @@ ErrorCode MemoryFileSystem::CreateFileA(const std::string& path, FileUse use, Fi
         use == FileUse::Read ? disk_.Readable(path, failure) : disk_.Writable(path, failure);
     if (!open.entry) {
         return failure;
+    }
+    if (use != FileUse::Read && IsBeingWritten(*open.entry)) {
+        return error::SharingViolation;
     }
     if (use == FileUse::Replace) {
         open.entry->content.clear();

@@ -48,6 +48,8 @@ class MemoryFileSystem : public FileSystem {
         std::size_t next = 0;
     };
 
+    bool IsBeingWritten(const MemoryEntry& entry) const;
+
     CallJournal& journal_;
     MemoryDisk& disk_;
     bool hasPathFileExists_ = true;

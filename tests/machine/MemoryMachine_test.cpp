@@ -123,6 +123,30 @@ TEST(MemoryMachine, AKeyNameHasAtMost255Bytes) {
     EXPECT_TRUE(machine.registry.SubKeysOf(Hive::CurrentUser, "").empty());
 }
 
+TEST(MemoryMachine, APathHasAtMost259BytesAndStartsOnADriveThatIsThere) {
+    MemoryMachine machine;
+    FileSystem& files = machine.Parts().files;
+    FileHandle file = 0;
+    EXPECT_EQ(files.CreateFileA("C:\\" + std::string(257, 'p'), FileUse::Replace, file),
+              error::PathNotFound);
+    EXPECT_EQ(files.CreateFileA("Q:\\a.txt", FileUse::Replace, file), error::PathNotFound);
+    EXPECT_EQ(files.CreateFileA("Q:\\a.txt", FileUse::Read, file), error::PathNotFound);
+    machine.AddFile("\\\\server\\share\\a.txt");
+    EXPECT_EQ(files.CreateFileA("\\\\SERVER\\share\\a.txt", FileUse::Read, file), error::Success);
+}
+
+TEST(MemoryMachine, CopyingAKeyBelowItselfEnds) {
+    MemoryMachine machine;
+    machine.SetValue(Hive::CurrentUser, "A", "Name", "text");
+    machine.AddKey(Hive::CurrentUser, "A\\B");
+    Registry& registry = machine.Parts().registry;
+    KeyHandle below = 0;
+    registry.RegOpenKeyExA(Registry::HandleOf(Hive::CurrentUser), "A\\B", KeyAccess::All, below);
+    EXPECT_EQ(registry.SHCopyKeyA(Registry::HandleOf(Hive::CurrentUser), "A", below),
+              error::Success);
+    EXPECT_EQ(machine.registry.TextAt(Hive::CurrentUser, "A\\B", "Name"), "text");
+}
+
 TEST(MemoryMachine, CopyingKeysCanBeMissing) {
     MemoryMachine machine;
     machine.AddKey(Hive::CurrentUser, "A");

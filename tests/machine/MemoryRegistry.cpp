@@ -19,6 +19,25 @@ constexpr ErrorCode badPathName = 161;
 constexpr std::size_t longestValueName95 = 255;
 constexpr std::size_t longestValueNameNt = 16383;
 
+bool IsText(std::uint32_t type) {
+    return type == registryType::Sz || type == registryType::ExpandSz ||
+           type == registryType::MultiSz;
+}
+
+// The bytes that are stored when these are written. A NUL stands behind them that a text may leave
+// uncounted; the 95 family takes a simple text up to its NUL whatever the size is.
+Bytes AsStored(std::uint32_t type, Bytes data, Family family) {
+    const bool endsAtNul = family == Family::Windows95 && type == registryType::Sz;
+    const bool isUnended = !data.empty() && data.back() != 0;
+    if (endsAtNul) {
+        data.erase(std::find(data.begin(), data.end(), 0), data.end());
+    }
+    if (endsAtNul || (family == Family::WindowsNt && IsText(type) && isUnended)) {
+        data.push_back(0);
+    }
+    return data;
+}
+
 // Copies as much as fits and tells the whole size; a text gets a NUL behind it where it lacks one
 // and there is room.
 ErrorCode Deliver(const MemoryValue& value, Bytes& buffer, std::uint32_t& size) {
@@ -27,9 +46,7 @@ ErrorCode Deliver(const MemoryValue& value, Bytes& buffer, std::uint32_t& size) 
         return error::MoreData;
     }
     std::copy(value.data.begin(), value.data.end(), buffer.begin());
-    const bool isText = value.type == registryType::Sz || value.type == registryType::ExpandSz ||
-                        value.type == registryType::MultiSz;
-    if (isText && buffer.size() > value.data.size() && !value.data.empty() &&
+    if (IsText(value.type) && buffer.size() > value.data.size() && !value.data.empty() &&
         value.data.back() != 0) {
         buffer[value.data.size()] = 0;
     }
@@ -186,7 +203,7 @@ ErrorCode MemoryRegistry::RegSetValueExA(KeyHandle key, const std::string& name,
     if (name.size() > longest) {
         return error::InvalidParameter;
     }
-    found->Set(name, type, data);
+    found->Set(name, type, AsStored(type, data, family_));
     return error::Success;
 }
 

@@ -16,12 +16,18 @@ bool IsWebAddress(const std::string& text) {
     return text.find("://") != std::string::npos || FoldCase(text).starts_with("MAILTO:");
 }
 
-// The program of a command line: what stands in quotes, or up to the first blank.
-std::string ProgramOf(const std::string& commandLine) {
-    const std::size_t start = std::min(commandLine.find_first_not_of(' '), commandLine.size());
-    const bool isQuoted = commandLine.compare(start, 1, "\"") == 0;
-    const std::size_t from = isQuoted ? start + 1 : start;
-    return commandLine.substr(from, commandLine.find(isQuoted ? '"' : ' ', from) - from);
+// What the program of a command line may be: what stands in quotes, or each part up to a blank.
+std::vector<std::string> ProgramsOf(const std::string& commandLine) {
+    if (commandLine.starts_with('"')) {
+        return {commandLine.substr(1, commandLine.find('"', 1) - 1)};
+    }
+    std::vector<std::string> programs;
+    std::size_t end = 0;
+    do {
+        end = commandLine.find(' ', end + 1);
+        programs.push_back(commandLine.substr(0, end));
+    } while (end != std::string::npos);
+    return programs;
 }
 
 }  // namespace
@@ -58,7 +64,11 @@ std::uint32_t MemoryShell::WinExec(const std::string& commandLine, int showComma
     if (const ErrorCode failure = journal_.Enter("WinExec", commandLine)) {
         return failure;
     }
-    return Start(ProgramOf(commandLine));
+    const std::vector<std::string> programs = ProgramsOf(commandLine);
+    const auto found = std::find_if(programs.begin(), programs.end(), [&](const std::string& name) {
+        return Start(name) == started;
+    });
+    return Start(found == programs.end() ? programs.front() : *found);
 }
 
 ExtractedIcons MemoryShell::ExtractIconExA(const std::string& path, int index) {

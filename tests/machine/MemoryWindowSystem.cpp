@@ -14,8 +14,6 @@ constexpr std::int32_t overlappedWindowStyle = 0x00CF0000;
 constexpr std::uint32_t systemCommands[] = {0xF120, 0xF010, 0xF000, 0xF020, 0xF030, 0xF060};
 constexpr std::uint32_t maskState = 1;
 constexpr std::uint32_t maskId = 2;
-constexpr std::uint32_t relationFirst = 0;
-constexpr std::uint32_t relationLast = 1;
 constexpr std::uint32_t relationNext = 2;
 constexpr std::uint32_t relationPrevious = 3;
 constexpr int hideCommand = 0;
@@ -57,8 +55,7 @@ WindowHandle MemoryWindowSystem::FindWindowA(const std::string& windowClass,
     }
     for (const WindowHandle handle : order_) {
         const MemoryWindow& window = windows_[handle];
-        if (window.parent == 0 && SameName(window.windowClass, windowClass) &&
-            SameName(window.caption, caption)) {
+        if (SameName(window.windowClass, windowClass) && SameName(window.caption, caption)) {
             return handle;
         }
     }
@@ -72,10 +69,6 @@ WindowHandle MemoryWindowSystem::GetWindow(WindowHandle window, std::uint32_t re
         return 0;
     }
     switch (relation) {
-        case relationFirst:
-            return order_.front();
-        case relationLast:
-            return order_.back();
         case relationNext:
             return place + 1 == order_.end() ? 0 : *(place + 1);
         case relationPrevious:
@@ -111,8 +104,6 @@ bool MemoryWindowSystem::SetForegroundWindow(WindowHandle window) {
         return false;
     }
     foreground_ = window;
-    std::erase(order_, window);
-    order_.insert(order_.begin(), window);
     return true;
 }
 

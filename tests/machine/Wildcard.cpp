@@ -12,9 +12,6 @@ bool Fits(std::string_view name, std::string_view pattern) {
     if (pattern[0] == '*') {
         return Fits(name, pattern.substr(1)) || (!name.empty() && Fits(name.substr(1), pattern));
     }
-    if (pattern[0] == '?' && (name.empty() || name[0] == '.')) {
-        return Fits(name, pattern.substr(1));
-    }
     if (name.empty() || (pattern[0] != '?' && pattern[0] != name[0])) {
         return false;
     }

@@ -5,8 +5,7 @@
 
 namespace velkarix {
 
-// `*` stands for any run of characters, `?` for one, or for none at the end of the name or of its
-// part before the dot; "*.*" fits every name. Without case.
+// `*` stands for any run of characters, `?` for one; "*.*" fits every name. Without case.
 bool FitsPattern(std::string_view name, std::string_view pattern);
 
 }  // namespace velkarix

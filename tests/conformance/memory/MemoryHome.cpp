@@ -24,6 +24,11 @@ class MemoryHome : public Home {
     std::string ScratchFolder() override { return "C:\\scratch"; }
     std::string ScratchKey() override { return "Software\\VelkarixScratch"; }
 
+    void MakeUnendedText(const std::string& name, const std::string& text) override {
+        memory_.registry.SetRaw(scratchHive, ScratchKey(), name, registryType::Sz,
+                                Bytes(text.begin(), text.end()));
+    }
+
     void MakeFile(const std::string& path, const std::string& content,
                   std::uint32_t attributes) override {
         memory_.AddFile(path).Content(content).Created(2003, 5, 1).With(attributes);
@@ -40,6 +45,11 @@ class MemoryHome : public Home {
         memory_.AddFile(path).Icon(0, Square(32), Square(16));
     }
     bool KeepsReadOnly() override { return true; }
+    void SetCurrentFolder(const std::string& path) override { memory_.disk.SetCurrentFolder(path); }
+    std::string VersionedFile() override {
+        memory_.AddFile("C:\\versioned.dll").Version({{"FileVersion", "1.0"}});
+        return "C:\\versioned.dll";
+    }
     std::string MissingDrive() override { return "Q:"; }
 
     void SetVariable(const std::string& name, const std::string& value) override {

@@ -110,6 +110,7 @@ class Win32Home : public Home {
         for (const HWND window : windows_) {
             DestroyWindow(window);
         }
+        SetCurrentDirectoryA(SystemFolder().c_str());  // a current folder can't be removed
         DeleteFolderTree(folder_);
         DeleteKeyTree(HKEY_CURRENT_USER, scratchKey);
     }
@@ -117,6 +118,16 @@ class Win32Home : public Home {
     Machine Parts() override { return win32_.Parts(); }
     std::string ScratchFolder() override { return folder_; }
     std::string ScratchKey() override { return scratchKey; }
+
+    void MakeUnendedText(const std::string& name, const std::string& text) override {
+        // A NUL behind the bytes would be stored with them, so another letter stands there.
+        const std::string padded = text + "x";
+        HKEY key = nullptr;
+        RegOpenKeyExA(HKEY_CURRENT_USER, scratchKey, 0, KEY_ALL_ACCESS, &key);
+        ::RegSetValueExA(key, name.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(padded.data()),
+                         static_cast<DWORD>(text.size()));
+        ::RegCloseKey(key);
+    }
 
     void MakeFile(const std::string& path, const std::string& content,
                   std::uint32_t attributes) override {
@@ -147,6 +158,8 @@ class Win32Home : public Home {
                                           FILE_ATTRIBUTE_NORMAL, nullptr);
         return file == INVALID_HANDLE_VALUE || ::CloseHandle(file) == 0;
     }
+    void SetCurrentFolder(const std::string& path) override { SetCurrentDirectoryA(path.c_str()); }
+    std::string VersionedFile() override { return SystemFolder() + "\\kernel32.dll"; }
     std::string MissingDrive() override {
         const std::uint32_t drives = GetLogicalDrives();
         char letter = 'D';
@@ -160,11 +173,7 @@ class Win32Home : public Home {
         SetEnvironmentVariableA(name.c_str(), value.c_str());
     }
     ProcessId OwnProcessId() override { return GetCurrentProcessId(); }
-    std::string QuietProgram() override {
-        char folder[MAX_PATH];
-        GetSystemDirectoryA(folder, sizeof(folder));
-        return std::string(folder) + "\\rundll32.exe";
-    }
+    std::string QuietProgram() override { return SystemFolder() + "\\rundll32.exe"; }
 
     void MakeMutex(const std::string& name) override {
         handles_.push_back(::CreateMutexA(nullptr, FALSE, name.c_str()));
@@ -182,6 +191,12 @@ class Win32Home : public Home {
     }
 
   private:
+    static std::string SystemFolder() {
+        char folder[MAX_PATH];
+        GetSystemDirectoryA(folder, sizeof(folder));
+        return folder;
+    }
+
     Win32Machine win32_;
     std::string folder_;
     std::vector<HANDLE> handles_;
