@@ -1,0 +1,81 @@
+#include "registry/CopyKeyTree.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/registry/RegistryFixture.h"
+
+namespace velkarix {
+namespace {
+
+class CopyKeyTreeTest : public RegistryFixture {
+  protected:
+    // With a call named, its first use in the copy fails.
+    ErrorCode Copy(const std::string& source, const std::string& destination,
+                   const std::string& failingCall = {}) {
+        KeyHandle opened = 0;
+        const KeyHandle hive = Registry::HandleOf(kUser);
+        EXPECT_EQ(machine.registry.RegCreateKeyA(hive, destination, opened), error::Success);
+        if (!failingCall.empty()) machine.FailNext(failingCall, error::KeyDeleted);
+        machine.Journal().Clear();
+        const ErrorCode result = CopyKeyTree(machine.registry, hive, source, opened);
+        machine.registry.RegCloseKey(opened);
+        return result;
+    }
+};
+
+TEST_F(CopyKeyTreeTest, CopiesValuesOfAllTypesAndAllSubkeys) {
+    for (std::uint32_t type = 0; type < 14; ++type) {
+        machine.registry.SetRaw(kUser, "A\\Source", std::to_string(type), type, {1, 2, 255, 0});
+    }
+    machine.registry.SetRaw(kUser, "A\\Source", "", registryType::Sz, {});
+    machine.registry.SetRaw(kUser, "A\\Source", "odd", 0xFFFFFFFF, {9});
+    machine.registry.SetRaw(kUser, "A\\Source\\Sub\\Deep", "large", registryType::Binary,
+                            Bytes(10'000, 7));
+    machine.AddKey(kUser, "A\\Source\\Empty");
+    machine.AddKey(kUser, "A\\Source\\Sub\\" + std::string(255, 'x'));
+    machine.SetValue(kUser, "A\\Source", std::string(255, 'n'), "long name");
+
+    EXPECT_EQ(Copy("A\\Source", "B\\Source"), error::Success);
+    EXPECT_EQ(machine.registry.TreeText(kUser, "B\\Source"),
+              machine.registry.TreeText(kUser, "A\\Source"));
+    EXPECT_EQ(machine.registry.ValueNamesOf(kUser, "B\\Source").size(), 17u);
+    EXPECT_TRUE(machine.registry.HasKey(kUser, "B\\Source\\Sub\\Deep"));
+}
+
+TEST_F(CopyKeyTreeTest, AddsToWhatTheDestinationHolds) {
+    machine.SetValue(kUser, "Source", "Name", "new");
+    machine.SetValue(kUser, "Target", "Name", "old");
+    machine.SetValue(kUser, "Target", "Other", "kept");
+    EXPECT_EQ(Copy("Source", "Target"), error::Success);
+    EXPECT_EQ(machine.registry.TextAt(kUser, "Target", "Name"), "new");
+    EXPECT_EQ(machine.registry.TextAt(kUser, "Target", "Other"), "kept");
+}
+
+TEST_F(CopyKeyTreeTest, TellsWhenTheSourceIsMissing) {
+    EXPECT_EQ(Copy("Source", "Target"), error::FileNotFound);
+}
+
+TEST_F(CopyKeyTreeTest, IsNoSuccessWhenAnyOfItsCallsFails) {
+    machine.SetValue(kUser, "Source", "Name", "text");
+    machine.SetValue(kUser, "Source\\Sub", "Name", "text");
+    for (const std::string call :
+         {"RegOpenKeyExA", "RegEnumValueA", "RegSetValueExA", "RegEnumKeyExA", "RegCreateKeyA"}) {
+        EXPECT_EQ(Copy("Source", "Target", call), error::KeyDeleted) << call;
+    }
+    EXPECT_EQ(Copy("Source", "Target"), error::Success);
+}
+
+TEST_F(CopyKeyTreeTest, IsNoSuccessWhenSomethingBelowMayNotBeRead) {
+    machine.AddKey(kUser, "Source\\Sub");
+    machine.registry.Restrict(kUser, "Source\\Sub", KeyAccess::Write);
+    EXPECT_EQ(Copy("Source", "Target"), error::AccessDenied);
+}
+
+TEST_F(CopyKeyTreeTest, EndsWhenAKeyIsCopiedIntoItself) {
+    machine.SetValue(kUser, "Source", "Name", "text");
+    EXPECT_NE(Copy("Source", "Source\\Below"), error::Success);
+    EXPECT_LT(machine.Journal().CountOf("RegCreateKeyA"), 1000u);
+}
+
+}  // namespace
+}  // namespace velkarix

@@ -1,0 +1,54 @@
+#include "registry/RawValue.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/machine/MemoryMachine.h"
+
+namespace velkarix {
+namespace {
+
+class RawValueTest : public testing::Test {
+  protected:
+    ErrorCode Read(std::uint32_t index, std::uint32_t nameCapacity = 260) {
+        KeyHandle key = 0;
+        machine.AddKey(Hive::CurrentUser, "Key");
+        EXPECT_EQ(machine.registry.RegOpenKeyA(Registry::HandleOf(Hive::CurrentUser), "Key", key),
+                  error::Success);
+        const ErrorCode result = EnumRawValue(machine.registry, key, index, nameCapacity, value);
+        machine.registry.RegCloseKey(key);
+        return result;
+    }
+
+    MemoryMachine machine;
+    RawValue value;
+};
+
+TEST_F(RawValueTest, GivesTheDataCutToItsSize) {
+    machine.registry.SetRaw(Hive::CurrentUser, "Key", "Name", 77, {1, 2, 3});
+    EXPECT_EQ(Read(0), error::Success);
+    EXPECT_EQ(value.name, "Name");
+    EXPECT_EQ(value.type, 77u);
+    EXPECT_EQ(value.data, (Bytes{1, 2, 3}));
+}
+
+TEST_F(RawValueTest, TellsThatThereAreNoMore) {
+    EXPECT_EQ(Read(0), error::NoMoreItems);
+}
+
+TEST_F(RawValueTest, TellsThatANameIsTooLongAfterOneMoreCall) {
+    machine.registry.SetRaw(Hive::CurrentUser, "Key", "Name", 3, {1});
+    EXPECT_EQ(Read(0, 4), error::MoreData);
+    EXPECT_EQ(machine.Journal().CountOf("RegEnumValueA"), 2u);
+    EXPECT_EQ(Read(0, 5), error::Success);
+}
+
+TEST_F(RawValueTest, TakesMemoryForSizesThatValuesCanHaveAlone) {
+    Bytes buffer;
+    EXPECT_TRUE(MakeRoom(buffer, 1'000'000));
+    EXPECT_EQ(buffer.size(), 1'000'000u);
+    EXPECT_FALSE(MakeRoom(buffer, 0xFFFFFFFF));
+    EXPECT_EQ(buffer.size(), 1'000'000u);
+}
+
+}  // namespace
+}  // namespace velkarix

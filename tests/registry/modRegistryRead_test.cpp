@@ -1,0 +1,471 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tests/registry/RegistryFixture.h"
+
+namespace velkarix {
+namespace {
+
+class modRegistryReadTest : public RegistryFixture {
+  protected:
+    // What EnumValues makes of one value of this type and these bytes.
+    RegValueEntry Entry(std::uint32_t type, Bytes data) {
+        machine.registry.SetRaw(kUser, key, "Name", type, std::move(data));
+        const auto entries = registry.EnumValues(kUser, key);
+        EXPECT_EQ(entries.size(), 1u);
+        return entries.empty() ? RegValueEntry{} : entries[0];
+    }
+    static RegValueEntry Text(const std::string& text) { return {"Name", text, RegValueTag::Text}; }
+    static RegValueEntry Number(std::int32_t number) {
+        return {"Name", number, RegValueTag::Integer};
+    }
+    static RegValueEntry Data(Bytes bytes) {
+        return {"Name", std::move(bytes), RegValueTag::ByteArray};
+    }
+
+    const RegValueEntry kNoData{"Name", "", RegValueTag::None};
+};
+
+// ---- EnumSubKeys
+
+TEST_F(modRegistryReadTest, EnumSubKeysAddsTheNamesToTheList) {
+    machine.AddKey(kUser, key + "\\A\\Below");
+    machine.AddKey(kUser, key + "\\B");
+    Strings names = {"there before"};
+    registry.EnumSubKeys(kUser, key, names);
+    EXPECT_EQ(names, (Strings{"there before", "A", "B"}));
+    EXPECT_EQ(Calls(), (Strings{"RegOpenKeyA", "RegEnumKeyExA", "RegEnumKeyExA", "RegEnumKeyExA",
+                                "RegCloseKey"}));
+}
+
+TEST_F(modRegistryReadTest, EnumSubKeysOfAMissingKeyLeavesTheListAsItWas) {
+    Strings names = {"there before"};
+    registry.EnumSubKeys(kUser, key, names);
+    EXPECT_EQ(names, (Strings{"there before"}));
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(modRegistryReadTest, EnumSubKeysTakesNamesOf254BytesAndEndsAtALongerOne) {
+    machine.AddKey(kUser, key + "\\" + std::string(254, 'a'));
+    machine.AddKey(kUser, key + "\\" + std::string(255, 'b'));
+    machine.AddKey(kUser, key + "\\c");
+    Strings names;
+    registry.EnumSubKeys(kUser, key, names);
+    EXPECT_EQ(names, (Strings{std::string(254, 'a')}));
+}
+
+TEST_F(modRegistryReadTest, EnumSubKeysEndsAtTheFirstFailure) {
+    machine.AddKey(kUser, key + "\\A");
+    machine.FailNext("RegEnumKeyExA");
+    Strings names;
+    registry.EnumSubKeys(kUser, key, names);
+    EXPECT_TRUE(names.empty());
+}
+
+// ---- EnumValues
+
+TEST_F(modRegistryReadTest, EnumValuesKeepsTheOrderOfTheSystem) {
+    machine.SetValue(kUser, key, "b", "2");
+    machine.SetValue(kUser, key, "", "default");
+    machine.SetDword(kUser, key, "A", 3);
+    EXPECT_EQ(registry.EnumValues(kUser, key),
+              (std::vector<RegValueEntry>{{"b", "2", RegValueTag::Text},
+                                          {"", "default", RegValueTag::Text},
+                                          {"A", 3, RegValueTag::Integer}}));
+    EXPECT_EQ(Calls(), (Strings{"RegOpenKeyExA", "RegEnumValueA", "RegEnumValueA", "RegEnumValueA",
+                                "RegEnumValueA", "RegCloseKey"}));
+}
+
+TEST_F(modRegistryReadTest, EnumValuesOfAMissingOrForbiddenKeyIsEmpty) {
+    EXPECT_TRUE(registry.EnumValues(kUser, key).empty());
+    machine.SetValue(kUser, key, "Name", "text");
+    machine.registry.Restrict(kUser, key, KeyAccess::Write);
+    EXPECT_TRUE(registry.EnumValues(kUser, key).empty());
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(modRegistryReadTest, EnumValuesOfAnEmptyKeyEnumeratesTheHiveItself) {
+    machine.SetValue(kUser, "", "Name", "text");
+    EXPECT_EQ(registry.EnumValues(kUser, ""), (std::vector<RegValueEntry>{Text("text")}));
+    EXPECT_EQ(Calls(), (Strings{"RegEnumValueA", "RegEnumValueA"}));
+}
+
+TEST_F(modRegistryReadTest, EnumValuesTakesTheNulOffATextWhateverItIs) {
+    for (const std::uint32_t type : {registryType::Sz, registryType::ExpandSz}) {
+        EXPECT_EQ(Entry(type, {'a', 'b', 0}), Text("ab"));
+        EXPECT_EQ(Entry(type, {'a', 'b'}), Text("a"));
+        EXPECT_EQ(Entry(type, {'a', 0, 'b', 0}), Text(std::string("a\0b", 3)));
+    }
+}
+
+TEST_F(modRegistryReadTest, EnumValuesGivesAnEmptyTextNoData) {
+    for (const std::uint32_t type : {registryType::Sz, registryType::ExpandSz}) {
+        EXPECT_EQ(Entry(type, {}), kNoData);
+        EXPECT_EQ(Entry(type, {0}), kNoData);
+        EXPECT_EQ(Entry(type, {'a'}), kNoData);
+    }
+}
+
+TEST_F(modRegistryReadTest, EnumValuesGivesSeveralTextsAsOneWithTheirNuls) {
+    EXPECT_EQ(Entry(registryType::MultiSz, {'a', 0, 'b', 0, 0}), Text(std::string("a\0b", 3)));
+    EXPECT_EQ(Entry(registryType::MultiSz, {'a', 0, 0}), Text("a"));
+    EXPECT_EQ(Entry(registryType::MultiSz, {'a', 0}), kNoData);
+    EXPECT_EQ(Entry(registryType::MultiSz, {0, 0}), kNoData);
+    EXPECT_EQ(Entry(registryType::MultiSz, {}), kNoData);
+}
+
+TEST_F(modRegistryReadTest, EnumValuesGivesBytesAsTheyAre) {
+    EXPECT_EQ(Entry(registryType::Binary, {0}), Data({0}));
+    EXPECT_EQ(Entry(registryType::Binary, {1, 2, 3}), Data({1, 2, 3}));
+    EXPECT_EQ(Entry(registryType::Binary, {}), kNoData);
+}
+
+TEST_F(modRegistryReadTest, EnumValuesReadsTheFirstFourBytesOfANumberWhateverItsSize) {
+    EXPECT_EQ(Entry(registryType::Dword, {4, 3, 2, 1}), Number(0x01020304));
+    EXPECT_EQ(Entry(registryType::Dword, {0xFE, 0xFF, 0xFF, 0xFF}), Number(-2));
+    EXPECT_EQ(Entry(registryType::Dword, {4, 3, 2, 1, 9, 9, 9, 9}), Number(0x01020304));
+    EXPECT_EQ(Entry(registryType::Dword, {4, 3}), Number(0x0304));
+    EXPECT_EQ(Entry(registryType::Dword, {}), Number(0));
+}
+
+TEST_F(modRegistryReadTest, EnumValuesGivesOtherTypesNoData) {
+    for (const std::uint32_t type :
+         {registryType::None, registryType::Qword, std::uint32_t{5}, std::uint32_t{0xFFFFFFFF}}) {
+        EXPECT_EQ(Entry(type, {1, 2, 3, 4, 5, 6, 7, 8}), kNoData) << type;
+    }
+}
+
+TEST_F(modRegistryReadTest, EnumValuesReadsAValueOfMoreThan4096BytesWhole) {
+    for (const std::size_t size : {4096u, 4097u, 100'000u}) {
+        machine.Journal().Clear();
+        Bytes bytes(size);
+        for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<std::uint8_t>(i % 251);
+        EXPECT_EQ(Entry(registryType::Binary, bytes), Data(bytes));
+        EXPECT_EQ(machine.Journal().CountOf("RegEnumValueA"), size > 4096 ? 3u : 2u) << size;
+    }
+}
+
+TEST_F(modRegistryReadTest, EnumValuesReadsSmallValuesBehindALargeOne) {
+    machine.registry.SetRaw(kUser, key, "Large", registryType::Binary, Bytes(5000, 1));
+    machine.registry.SetRaw(kUser, key, "Small", registryType::Dword, {5});
+    const auto entries = registry.EnumValues(kUser, key);
+    ASSERT_EQ(entries.size(), 2u);
+    EXPECT_EQ(entries[1], (RegValueEntry{"Small", 5, RegValueTag::Integer}));
+}
+
+TEST_F(modRegistryReadTest, EnumValuesEndsAtANameOfMoreThan259Bytes) {
+    machine.SetValue(kUser, key, std::string(259, 'a'), "1");
+    machine.SetValue(kUser, key, std::string(260, 'b'), "2");
+    machine.SetValue(kUser, key, "c", "3");
+    const auto entries = registry.EnumValues(kUser, key);
+    ASSERT_EQ(entries.size(), 1u);
+    EXPECT_EQ(entries[0].name, std::string(259, 'a'));
+    // The long name is asked for once more, as a large value would be.
+    EXPECT_EQ(machine.Journal().CountOf("RegEnumValueA"), 3u);
+}
+
+TEST_F(modRegistryReadTest, EnumValuesEndsAtTheFirstFailure) {
+    machine.SetValue(kUser, key, "Name", "text");
+    machine.FailNext("RegEnumValueA", error::KeyDeleted);
+    EXPECT_TRUE(registry.EnumValues(kUser, key).empty());
+}
+
+// A registry whose one value is another each time that it is read.
+struct ChangingRegistry : MemoryRegistry {
+    using MemoryRegistry::MemoryRegistry;
+
+    ErrorCode RegEnumValueA(KeyHandle key, std::uint32_t index, std::uint32_t capacity,
+                            std::string& name, std::uint32_t& type, Bytes& data,
+                            std::uint32_t& size) override {
+        BeforeRead();
+        return MemoryRegistry::RegEnumValueA(key, index, capacity, name, type, data, size);
+    }
+    ErrorCode RegQueryValueExA(KeyHandle key, const std::string& name, std::uint32_t& type,
+                               Bytes* data, std::uint32_t& size) override {
+        BeforeRead();
+        return MemoryRegistry::RegQueryValueExA(key, name, type, data, size);
+    }
+    void BeforeRead() {
+        if (!sizes.empty()) {
+            SetRaw(Hive::CurrentUser, "Key", "Name", registryType::Sz, Bytes(sizes.front(), 'x'));
+            if (sizes.size() > 1) sizes.erase(sizes.begin());
+        }
+    }
+
+    std::vector<std::size_t> sizes;  // the last one stays
+};
+
+class ChangingRegistryTest : public modRegistryReadTest {
+  protected:
+    void SetUp() override { changing.AddKey(kUser, "Key"); }
+    void TearDown() override { EXPECT_EQ(changing.OpenKeyCount(), 0u); }
+
+    ChangingRegistry changing{machine.Journal()};
+    Machine real = machine.Parts();
+    Machine parts{changing,     real.profileFiles, real.versionResources,
+                  real.files,   real.clock,        real.processes,
+                  real.token,   real.shell,        real.system,
+                  real.windows, real.cryptography};
+    modRegistry operations{parts, desktop, "Velkarix"};
+};
+
+TEST_F(ChangingRegistryTest, EnumValuesReadsAValueThatGrowsBetweenTheCalls) {
+    changing.sizes = {5000, 6000};
+    const auto entries = operations.EnumValues(kUser, "Key");
+    ASSERT_EQ(entries.size(), 1u);
+    EXPECT_EQ(entries[0], Text(std::string(5999, 'x')));
+}
+
+TEST_F(ChangingRegistryTest, EnumValuesReadsAValueThatShrinksBetweenTheCalls) {
+    changing.sizes = {5000, 3};
+    const auto entries = operations.EnumValues(kUser, "Key");
+    ASSERT_EQ(entries.size(), 1u);
+    EXPECT_EQ(entries[0], Text("xx"));
+}
+
+TEST_F(ChangingRegistryTest, EnumValuesGivesUpOnAValueThatNeverStopsGrowing) {
+    for (std::size_t size = 5000; size < 50'000; size += 1000) changing.sizes.push_back(size);
+    EXPECT_TRUE(operations.EnumValues(kUser, "Key").empty());
+    EXPECT_LE(machine.Journal().CountOf("RegEnumValueA"), 10u);
+}
+
+TEST_F(ChangingRegistryTest, GetStringValueOfAValueThatGrowsBetweenTheQueriesIsEmpty) {
+    changing.sizes = {3, 4};
+    EXPECT_EQ(operations.GetStringValue(kUser, "Key", "Name"), "");
+}
+
+TEST_F(ChangingRegistryTest, GetStringValueTakesWhatIsLeftOfAValueThatShrinks) {
+    changing.sizes = {30, 4};
+    EXPECT_EQ(operations.GetStringValue(kUser, "Key", "Name"), "xxxx");
+}
+
+TEST_F(ChangingRegistryTest, GetBinaryValueOfAValueThatGrowsBetweenTheQueriesFails) {
+    changing.sizes = {3, 4};
+    Bytes bytes;
+    EXPECT_FALSE(operations.GetBinaryValue(kUser, "Key", "Name", bytes, false));
+}
+
+TEST_F(ChangingRegistryTest, GetBinaryValueTakesWhatIsLeftOfAValueThatShrinks) {
+    changing.sizes = {30, 2};
+    Bytes bytes;
+    EXPECT_TRUE(operations.GetBinaryValue(kUser, "Key", "Name", bytes, false));
+    EXPECT_EQ(bytes, (Bytes{'x', 'x'}));
+}
+
+// A registry that lists what the real one can't hold.
+struct LyingRegistry : ChangingRegistry {
+    using ChangingRegistry::ChangingRegistry;
+    ErrorCode RegEnumValueA(KeyHandle, std::uint32_t index, std::uint32_t, std::string& name,
+                            std::uint32_t& type, Bytes& data, std::uint32_t& size) override {
+        if (index == 3) return error::NoMoreItems;
+        name = std::vector<std::string>{"Name", "NAME", "Other"}[index];
+        type = registryType::Binary;
+        data[0] = static_cast<std::uint8_t>('1' + index);
+        size = index == 2 ? 0xFFFFFFFF : 1;
+        return error::Success;
+    }
+    ErrorCode RegQueryValueExA(KeyHandle, const std::string&, std::uint32_t&, Bytes*,
+                               std::uint32_t& size) override {
+        size = 0xFFFFFFFF;
+        return error::Success;
+    }
+};
+
+class LyingRegistryTest : public modRegistryReadTest {
+  protected:
+    void SetUp() override { lying.AddKey(kUser, "Key"); }
+
+    LyingRegistry lying{machine.Journal()};
+    Machine real = machine.Parts();
+    Machine parts{lying,        real.profileFiles, real.versionResources,
+                  real.files,   real.clock,        real.processes,
+                  real.token,   real.shell,        real.system,
+                  real.windows, real.cryptography};
+    modRegistry operations{parts, desktop, "Velkarix"};
+};
+
+TEST_F(LyingRegistryTest, EnumValuesLeavesOutANameThatDiffersInCaseOnly) {
+    const auto entries = operations.EnumValues(kUser, "Key");
+    ASSERT_EQ(entries.size(), 2u);
+    EXPECT_EQ(entries[0], Data({'1'}));
+    EXPECT_EQ(entries[1].name, "Other");
+}
+
+TEST_F(LyingRegistryTest, NothingIsReadPastTheData) {
+    const auto entries = operations.EnumValues(kUser, "Key");
+    ASSERT_EQ(entries.size(), 2u);
+    EXPECT_EQ(std::get<Bytes>(entries[1].data).size(), 4096u);
+}
+
+TEST_F(LyingRegistryTest, ASizeThatNoValueHasIsAFailedRead) {
+    Bytes bytes;
+    EXPECT_EQ(operations.GetStringValue(kUser, "Key", "Name"), "");
+    EXPECT_FALSE(operations.GetBinaryValue(kUser, "Key", "Name", bytes, true));
+}
+
+// ---- GetStringValue
+
+TEST_F(modRegistryReadTest, GetStringValueAsksForTheSizeAndThenForTheText) {
+    machine.SetValue(kUser, key, "Name", "text");
+    EXPECT_EQ(registry.GetStringValue(kUser, key, "Name"), "text");
+    EXPECT_EQ(Calls(),
+              (Strings{"RegOpenKeyA", "RegQueryValueExA", "RegQueryValueExA", "RegCloseKey"}));
+}
+
+TEST_F(modRegistryReadTest, GetStringValueOfAMissingKeyOrValueIsEmptyWithoutAMessage) {
+    EXPECT_EQ(registry.GetStringValue(kUser, key, "Name"), "");
+    machine.AddKey(kUser, key);
+    EXPECT_EQ(registry.GetStringValue(kUser, key, "Name"), "");
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(modRegistryReadTest, GetStringValueWithoutANameReadsTheDefaultValue) {
+    machine.SetValue(kUser, key, "", "default");
+    EXPECT_EQ(registry.GetStringValue(kUser, key, ""), "default");
+}
+
+TEST_F(modRegistryReadTest, GetStringValueTakesAnyTypeAndEndsAtTheFirstNul) {
+    machine.SetDword(kUser, key, "Number", 0x00434241);
+    EXPECT_EQ(registry.GetStringValue(kUser, key, "Number"), "ABC");
+    machine.registry.SetRaw(kUser, key, "Bytes", registryType::Binary, {'a', 0xFF, 0, 'b'});
+    EXPECT_EQ(registry.GetStringValue(kUser, key, "Bytes"), "a\xFF");
+    machine.registry.SetRaw(kUser, key, "NoNul", registryType::Sz, {'a', 'b'});
+    EXPECT_EQ(registry.GetStringValue(kUser, key, "NoNul"), "ab");
+    machine.registry.SetRaw(kUser, key, "Empty", registryType::Sz, {});
+    EXPECT_EQ(registry.GetStringValue(kUser, key, "Empty"), "");
+}
+
+TEST_F(modRegistryReadTest, GetStringValueReadsLongTextsWhole) {
+    const std::string text(1'000'000, 'x');
+    machine.SetValue(kUser, key, "Name", text);
+    EXPECT_EQ(registry.GetStringValue(kUser, key, "Name"), text);
+}
+
+TEST_F(modRegistryReadTest, GetStringValueIsEmptyWhenTheReadFails) {
+    machine.SetValue(kUser, key, "Name", "text");
+    machine.FailNext("RegOpenKeyA");
+    EXPECT_EQ(registry.GetStringValue(kUser, key, "Name"), "");
+    machine.FailNext("RegQueryValueExA");
+    EXPECT_EQ(registry.GetStringValue(kUser, key, "Name"), "");
+    machine.FailNext("RegQueryValueExA", error::Success);
+    machine.FailNext("RegQueryValueExA");
+    EXPECT_EQ(registry.GetStringValue(kUser, key, "Name"), "");
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+// ---- GetDwordValue
+
+TEST_F(modRegistryReadTest, GetDwordValueReadsANumber) {
+    machine.SetDword(kUser, key, "Name", 0xFFFFFFFE);
+    bool missing = false;
+    EXPECT_EQ(registry.GetDwordValue(kUser, key, "Name", missing), -2);
+    EXPECT_FALSE(missing);
+    EXPECT_EQ(Calls(), (Strings{"RegOpenKeyExA", "RegQueryValueExA", "RegCloseKey"}));
+}
+
+TEST_F(modRegistryReadTest, GetDwordValueOfAMissingValueIsMissing) {
+    machine.AddKey(kUser, key);
+    bool missing = false;
+    EXPECT_EQ(registry.GetDwordValue(kUser, key, "Name", missing), 0);
+    EXPECT_TRUE(missing);
+}
+
+TEST_F(modRegistryReadTest, GetDwordValueOfAMissingKeyDoesntTouchMissing) {
+    for (const bool before : {false, true}) {
+        bool missing = before;
+        EXPECT_EQ(registry.GetDwordValue(kUser, key, "Name", missing), 0);
+        EXPECT_EQ(missing, before);
+    }
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(modRegistryReadTest, GetDwordValueReadsFourBytesOfAnyType) {
+    bool missing = false;
+    machine.registry.SetRaw(kUser, key, "Short", registryType::Binary, {1, 2});
+    EXPECT_EQ(registry.GetDwordValue(kUser, key, "Short", missing), 0x0201);
+    machine.registry.SetRaw(kUser, key, "Empty", registryType::Dword, {});
+    EXPECT_EQ(registry.GetDwordValue(kUser, key, "Empty", missing), 0);
+    EXPECT_FALSE(missing);
+    machine.registry.SetRaw(kUser, key, "Long", registryType::Dword, {1, 2, 3, 4, 5});
+    EXPECT_EQ(registry.GetDwordValue(kUser, key, "Long", missing), 0);
+    EXPECT_TRUE(missing);
+}
+
+// ---- GetBinaryValue
+
+TEST_F(modRegistryReadTest, GetBinaryValueReadsTheBytesByTwoQueries) {
+    machine.registry.SetRaw(kUser, key, "Name", registryType::Binary, {1, 2, 3});
+    Bytes bytes;
+    EXPECT_TRUE(registry.GetBinaryValue(kUser, key, "Name", bytes, false));
+    EXPECT_EQ(bytes, (Bytes{1, 2, 3}));
+    EXPECT_EQ(Calls(),
+              (Strings{"RegOpenKeyExA", "RegQueryValueExA", "RegQueryValueExA", "RegCloseKey"}));
+}
+
+TEST_F(modRegistryReadTest, GetBinaryValueOfOneByteOrNoneGivesFalse) {
+    for (const Bytes& data : {Bytes{0}, Bytes{7}, Bytes{}}) {
+        for (const bool expect552 : {false, true}) {
+            machine.registry.SetRaw(kUser, key, "Name", registryType::Binary, data);
+            Bytes bytes;
+            EXPECT_FALSE(registry.GetBinaryValue(kUser, key, "Name", bytes, expect552));
+        }
+    }
+}
+
+TEST_F(modRegistryReadTest, GetBinaryValueOfTwoBytesGivesTrueAlsoWhere552AreExpected) {
+    machine.registry.SetRaw(kUser, key, "Name", registryType::Binary, {0, 0});
+    Bytes bytes;
+    EXPECT_TRUE(registry.GetBinaryValue(kUser, key, "Name", bytes, true));
+    EXPECT_EQ(bytes, (Bytes{0, 0}));
+}
+
+TEST_F(modRegistryReadTest, GetBinaryValueGivesTrueFor552BytesThoughTheKeyDoesntClose) {
+    class RefusingRegistry : public MemoryRegistry {
+      public:
+        using MemoryRegistry::MemoryRegistry;
+        ErrorCode RegCloseKey(KeyHandle opened) override {
+            MemoryRegistry::RegCloseKey(opened);
+            return error::InvalidHandle;
+        }
+    } refusing(machine.Journal());
+    const Machine real = machine.Parts();
+    const Machine parts{refusing,     real.profileFiles, real.versionResources,
+                        real.files,   real.clock,        real.processes,
+                        real.token,   real.shell,        real.system,
+                        real.windows, real.cryptography};
+    modRegistry operations(parts, desktop, "Velkarix");
+    Bytes bytes;
+    refusing.SetRaw(kUser, key, "Name", registryType::Binary, Bytes(552, 1));
+    EXPECT_TRUE(operations.GetBinaryValue(kUser, key, "Name", bytes, true));
+    EXPECT_FALSE(operations.GetBinaryValue(kUser, key, "Name", bytes, false));
+    refusing.SetRaw(kUser, key, "Name", registryType::Binary, Bytes(551, 1));
+    EXPECT_FALSE(operations.GetBinaryValue(kUser, key, "Name", bytes, true));
+}
+
+TEST_F(modRegistryReadTest, GetBinaryValueOfAMissingKeyOrValueGivesFalse) {
+    Bytes bytes = {1, 2};
+    EXPECT_FALSE(registry.GetBinaryValue(kUser, key, "Name", bytes, false));
+    machine.AddKey(kUser, key);
+    EXPECT_FALSE(registry.GetBinaryValue(kUser, key, "Name", bytes, false));
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(modRegistryReadTest, ReadingNeedsNoMoreThanTheRightToRead) {
+    machine.SetValue(kUser, key, "Name", "text");
+    machine.AddKey(kUser, key + "\\Sub");
+    machine.registry.Restrict(kUser, key, KeyAccess::Read);
+    Strings names;
+    Bytes bytes;
+    bool missing = false;
+    registry.EnumSubKeys(kUser, key, names);
+    EXPECT_EQ(names, (Strings{"Sub"}));
+    EXPECT_EQ(registry.EnumValues(kUser, key).size(), 1u);
+    EXPECT_EQ(registry.GetStringValue(kUser, key, "Name"), "text");
+    EXPECT_TRUE(registry.GetBinaryValue(kUser, key, "Name", bytes, false));
+    registry.GetDwordValue(kUser, key, "Other", missing);
+    EXPECT_TRUE(missing);
+}
+
+}  // namespace
+}  // namespace velkarix

@@ -1,0 +1,353 @@
+#include "registry/modRegistry.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/registry/RegistryFixture.h"
+
+namespace velkarix {
+namespace {
+
+class modRegistryTest : public RegistryFixture {};
+
+const Strings kWriteCalls = {"RegCreateKeyA", "RegSetValueExA", "RegCloseKey"};
+
+// ---- Writing
+
+TEST_F(modRegistryTest, SetStringValueWritesTheTextWithItsNul) {
+    EXPECT_TRUE(registry.SetStringValue(kUser, key, "Name", "text"));
+    EXPECT_EQ(machine.registry.ValueAt(kUser, key, "Name"),
+              (MemoryValue{"Name", registryType::Sz, {'t', 'e', 'x', 't', 0}}));
+    EXPECT_EQ(Calls(), kWriteCalls);
+}
+
+TEST_F(modRegistryTest, SetStringValueWritesAnEmptyTextAsOneNul) {
+    EXPECT_TRUE(registry.SetStringValue(kUser, key, "", ""));
+    EXPECT_EQ(machine.registry.ValueAt(kUser, key, "")->data, Bytes{0});
+}
+
+TEST_F(modRegistryTest, SetStringValueKeepsBytesOfTheCodePagesUpperHalf) {
+    EXPECT_TRUE(registry.SetStringValue(kUser, key,
+                                        "\xDC"
+                                        "ber",
+                                        "\xE4\xF6\xFC"));
+    EXPECT_EQ(machine.registry
+                  .ValueAt(kUser, key,
+                           "\xDC"
+                           "ber")
+                  ->data,
+              (Bytes{0xE4, 0xF6, 0xFC, 0}));
+}
+
+TEST_F(modRegistryTest, SetBinaryValueWritesTheBytes) {
+    EXPECT_TRUE(registry.SetBinaryValue(kUser, key, "Name", {1, 0, 255}, false));
+    EXPECT_EQ(machine.registry.ValueAt(kUser, key, "Name"),
+              (MemoryValue{"Name", registryType::Binary, {1, 0, 255}}));
+    EXPECT_EQ(Calls(), kWriteCalls);
+}
+
+TEST_F(modRegistryTest, SetBinaryValueWritesAsManyZerosWhenAsked) {
+    EXPECT_TRUE(registry.SetBinaryValue(kUser, key, "Name", {7, 8}, true));
+    EXPECT_EQ(machine.registry.ValueAt(kUser, key, "Name")->data, (Bytes{0, 0}));
+}
+
+TEST_F(modRegistryTest, SetDwordValueWritesFourBytesTheLowestFirst) {
+    EXPECT_TRUE(registry.SetDwordValue(kUser, key, "Name", 0x01020304));
+    EXPECT_EQ(machine.registry.ValueAt(kUser, key, "Name"),
+              (MemoryValue{"Name", registryType::Dword, {4, 3, 2, 1}}));
+    EXPECT_TRUE(registry.SetDwordValue(kUser, key, "Name", -2));
+    EXPECT_EQ(machine.registry.ValueAt(kUser, key, "Name")->data, (Bytes{0xFE, 0xFF, 0xFF, 0xFF}));
+    EXPECT_EQ(machine.Journal().CountOf("RegSetValueExA"), 2u);
+}
+
+TEST_F(modRegistryTest, CreateKeyMakesAllLevelsAndClosesTheKey) {
+    EXPECT_TRUE(registry.CreateKey(kUser, "Software\\A\\B\\C"));
+    EXPECT_TRUE(machine.registry.HasKey(kUser, "Software\\A\\B\\C"));
+    EXPECT_EQ(Calls(), (Strings{"RegCreateKeyA", "RegCloseKey"}));
+}
+
+TEST_F(modRegistryTest, ARefusedWriteStillGivesTrueWithoutAMessage) {
+    for (int i = 0; i < 3; ++i) machine.FailNext("RegSetValueExA");
+    EXPECT_TRUE(registry.SetStringValue(kUser, key, "Name", "text"));
+    EXPECT_TRUE(registry.SetBinaryValue(kUser, key, "Name", {1}, false));
+    EXPECT_TRUE(registry.SetDwordValue(kUser, key, "Name", 1));
+    EXPECT_FALSE(machine.registry.ValueAt(kUser, key, "Name"));
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+const std::string kNotCreated =
+    "Following Key Could not be created: \r\nSoftware\\Example\r\nAccess is denied.\r\n";
+
+TEST_F(modRegistryTest, SetStringValueTellsThatTheKeyCantBeCreated) {
+    machine.FailNext("RegCreateKeyA");
+    EXPECT_FALSE(registry.SetStringValue(kUser, key, "Name", "text"));
+    EXPECT_EQ(OnlyMessage(), kNotCreated);
+    EXPECT_EQ(Calls(), (Strings{"RegCreateKeyA", "FormatMessageA"}));
+}
+
+TEST_F(modRegistryTest, SetBinaryValueTellsThatTheKeyCantBeCreated) {
+    machine.FailNext("RegCreateKeyA");
+    EXPECT_FALSE(registry.SetBinaryValue(kUser, key, "Name", {1}, false));
+    EXPECT_EQ(OnlyMessage(), kNotCreated);
+}
+
+TEST_F(modRegistryTest, CreateKeyTellsThatTheKeyCantBeCreated) {
+    machine.FailNext("RegCreateKeyA");
+    EXPECT_FALSE(registry.CreateKey(kUser, key));
+    EXPECT_EQ(OnlyMessage(), kNotCreated);
+}
+
+TEST_F(modRegistryTest, SetDwordValueFailsWithoutAMessage) {
+    machine.FailNext("RegCreateKeyA");
+    EXPECT_FALSE(registry.SetDwordValue(kUser, key, "Name", 1));
+    EXPECT_TRUE(desktop.messages.empty());
+    EXPECT_EQ(Calls(), (Strings{"RegCreateKeyA"}));
+}
+
+// ---- Deleting
+
+TEST_F(modRegistryTest, DeleteKeyIsOneCall) {
+    machine.AddKey(kUser, key);
+    EXPECT_TRUE(registry.DeleteKey(kUser, key, false));
+    EXPECT_FALSE(machine.registry.HasKey(kUser, key));
+    EXPECT_EQ(Calls(), (Strings{"RegDeleteKeyA"}));
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(modRegistryTest, DeleteKeyLeavesItToTheSystemWhatBecomesOfSubkeys) {
+    machine.AddKey(kUser, key + "\\Sub");
+    EXPECT_FALSE(registry.DeleteKey(kUser, key, true));
+    EXPECT_TRUE(machine.registry.HasKey(kUser, key + "\\Sub"));
+    machine.SetFamily(Family::Windows95);
+    EXPECT_TRUE(registry.DeleteKey(kUser, key, true));
+    EXPECT_FALSE(machine.registry.HasKey(kUser, key));
+}
+
+TEST_F(modRegistryTest, DeleteKeyTellsWhyItFailed) {
+    EXPECT_FALSE(registry.DeleteKey(kUser, key, false));
+    EXPECT_EQ(OnlyMessage(),
+              "Following Key Could not be deleted: \r\nSoftware\\Example\r\n\r\n"
+              "The system cannot find the file specified.\r\n");
+}
+
+TEST_F(modRegistryTest, DeleteKeyFailsInSilenceWhenQuiet) {
+    EXPECT_FALSE(registry.DeleteKey(kUser, key, true));
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(modRegistryTest, DeleteValueOpensTheKeyAndDeletesTheValue) {
+    machine.SetValue(kUser, key, "Name", "text");
+    machine.SetValue(kUser, key, "Other", "text");
+    EXPECT_TRUE(registry.DeleteValue(kUser, key, "name", false));
+    EXPECT_EQ(machine.registry.ValueNamesOf(kUser, key), (Strings{"Other"}));
+    EXPECT_EQ(Calls(), (Strings{"RegOpenKeyExA", "RegDeleteValueA", "RegCloseKey"}));
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(modRegistryTest, DeleteValueNeedsAllRights) {
+    machine.SetValue(kUser, key, "Name", "text");
+    machine.registry.Restrict(kUser, key, KeyAccess::Write);
+    EXPECT_FALSE(registry.DeleteValue(kUser, key, "Name", true));
+}
+
+TEST_F(modRegistryTest, DeleteValueTellsThatTheKeyCantBeOpened) {
+    EXPECT_FALSE(registry.DeleteValue(kUser, key, "Name", false));
+    EXPECT_EQ(OnlyMessage(),
+              "Following Key Value Could not be opened: \r\nSoftware\\Example\r\n\r\nName\r\n"
+              "The system cannot find the file specified.\r\n");
+}
+
+TEST_F(modRegistryTest, DeleteValueTellsThatTheValueCantBeDeleted) {
+    machine.SetValue(kUser, key, "Name", "text");
+    machine.FailNext("RegDeleteValueA");
+    EXPECT_FALSE(registry.DeleteValue(kUser, key, "Name", false));
+    EXPECT_EQ(OnlyMessage(),
+              "Following Key Value Could not be deleted: \r\nSoftware\\Example\r\n\r\nName\r\n"
+              "Access is denied.\r\n");
+}
+
+TEST_F(modRegistryTest, DeleteValueFailsInSilenceWhenQuiet) {
+    EXPECT_FALSE(registry.DeleteValue(kUser, key, "Name", true));
+    machine.AddKey(kUser, key);
+    EXPECT_FALSE(registry.DeleteValue(kUser, key, "Name", true));
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(modRegistryTest, ACodeThatTheSystemHasNoTextForIsToldWithoutOne) {
+    machine.FailNext("RegDeleteKeyA", 54321);
+    EXPECT_FALSE(registry.DeleteKey(kUser, key, false));
+    EXPECT_EQ(OnlyMessage(), "Following Key Could not be deleted: \r\nSoftware\\Example\r\n\r\n");
+    EXPECT_EQ(registry.GetSystemErrorText(54321), "");
+}
+
+TEST_F(modRegistryTest, GetSystemErrorTextKeepsTheLineBreakAtItsEnd) {
+    EXPECT_EQ(registry.GetSystemErrorText(error::AccessDenied), "Access is denied.\r\n");
+}
+
+// ---- Deleting what is below a key
+
+TEST_F(modRegistryTest, DeleteSubKeysRemovesTheTreeBelowAndKeepsTheKey) {
+    for (const char* path : {"\\A\\1", "\\A\\2\\x", "\\B", "\\C\\1\\2\\3"}) {
+        machine.AddKey(kUser, key + path);
+    }
+    machine.SetValue(kUser, key, "Name", "text");
+    machine.SetValue(kUser, key + "\\A", "Name", "text");
+    EXPECT_TRUE(registry.DeleteSubKeys(kUser, key));
+    EXPECT_TRUE(machine.registry.SubKeysOf(kUser, key).empty());
+    EXPECT_EQ(machine.registry.TextAt(kUser, key, "Name"), "text");
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(modRegistryTest, DeleteSubKeysOfAKeyWithoutAnyChangesNothing) {
+    machine.SetValue(kUser, key, "Name", "text");
+    const std::string before = machine.registry.TreeText(kUser, "Software");
+    EXPECT_TRUE(registry.DeleteSubKeys(kUser, key));
+    EXPECT_EQ(machine.registry.TreeText(kUser, "Software"), before);
+    EXPECT_EQ(Calls(), (Strings{"RegOpenKeyExA", "RegEnumKeyA", "RegCloseKey"}));
+}
+
+TEST_F(modRegistryTest, DeleteSubKeysCollectsTheNamesBeforeItDeletes) {
+    machine.AddKey(kUser, key + "\\A");
+    machine.AddKey(kUser, key + "\\B");
+    EXPECT_TRUE(registry.DeleteSubKeys(kUser, key));
+    EXPECT_EQ(Calls(), (Strings{"RegOpenKeyExA", "RegEnumKeyA", "RegEnumKeyA", "RegEnumKeyA",
+                                "RegOpenKeyExA", "RegEnumKeyA", "RegCloseKey", "RegDeleteKeyA",
+                                "RegOpenKeyExA", "RegEnumKeyA", "RegCloseKey", "RegDeleteKeyA",
+                                "RegCloseKey"}));
+    EXPECT_EQ(machine.Journal().ArgumentsOf("RegOpenKeyExA"),
+              (Strings{"HKCU\\Software\\Example", "HKCU\\Software\\Example\\A",
+                       "HKCU\\Software\\Example\\B"}));
+    EXPECT_EQ(machine.Journal().ArgumentsOf("RegDeleteKeyA"),
+              (Strings{"HKCU\\Software\\Example\\A", "HKCU\\Software\\Example\\B"}));
+}
+
+TEST_F(modRegistryTest, DeleteSubKeysServesEventsInEachRound) {
+    machine.AddKey(kUser, key + "\\A");
+    machine.AddKey(kUser, key + "\\B");
+    std::vector<std::size_t> namesReadBefore;
+    desktop.onYield = [&] { namesReadBefore.push_back(machine.Journal().CountOf("RegEnumKeyA")); };
+    EXPECT_TRUE(registry.DeleteSubKeys(kUser, key));
+    EXPECT_EQ(namesReadBefore, (std::vector<std::size_t>{0, 1, 2, 3, 4}));
+}
+
+TEST_F(modRegistryTest, DeleteSubKeysBearsThatAnEventTakesTheKeysAway) {
+    machine.AddKey(kUser, key + "\\A");
+    machine.AddKey(kUser, key + "\\B");
+    desktop.onYield = [&] {
+        if (desktop.yields == 3) machine.registry.RemoveKey(kUser, key);
+    };
+    EXPECT_TRUE(registry.DeleteSubKeys(kUser, key));
+    EXPECT_FALSE(machine.registry.HasKey(kUser, key));
+}
+
+TEST_F(modRegistryTest, DeleteSubKeysOfAKeyThatCantBeOpenedGivesFalse) {
+    EXPECT_FALSE(registry.DeleteSubKeys(kUser, key));
+    machine.AddKey(kUser, key + "\\A");
+    machine.registry.Restrict(kUser, key, KeyAccess::Read);
+    EXPECT_FALSE(registry.DeleteSubKeys(kUser, key));
+    EXPECT_TRUE(machine.registry.HasKey(kUser, key + "\\A"));
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(modRegistryTest, DeleteSubKeysGoesOnPastWhatItCantDelete) {
+    machine.AddKey(kUser, key + "\\A");
+    machine.AddKey(kUser, key + "\\B");
+    machine.AddKey(kUser, key + "\\C");
+    machine.registry.Restrict(kUser, key + "\\B", KeyAccess::Read);
+    EXPECT_TRUE(registry.DeleteSubKeys(kUser, key));
+    EXPECT_EQ(machine.registry.SubKeysOf(kUser, key), (Strings{"B"}));
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(modRegistryTest, DeleteSubKeysTakesNamesOf255Bytes) {
+    machine.AddKey(kUser, key + "\\" + std::string(255, 'x'));
+    EXPECT_TRUE(registry.DeleteSubKeys(kUser, key));
+    EXPECT_TRUE(machine.registry.SubKeysOf(kUser, key).empty());
+}
+
+TEST_F(modRegistryTest, DeleteSubKeysEndsWhenLinksLeadRoundInACircle) {
+    // Each key seems to hold two more, as with two links back to itself.
+    struct CircularRegistry : MemoryRegistry {
+        using MemoryRegistry::MemoryRegistry;
+        ErrorCode RegOpenKeyExA(KeyHandle parent, const std::string&, KeyAccess access,
+                                KeyHandle& opened) override {
+            return MemoryRegistry::RegOpenKeyExA(parent, "Software", access, opened);
+        }
+        ErrorCode RegEnumKeyA(KeyHandle, std::uint32_t index, std::uint32_t,
+                              std::string& name) override {
+            name = "Again";
+            return index < 2 ? error::Success : error::NoMoreItems;
+        }
+    };
+    machine.AddKey(kUser, "Software");
+    CircularRegistry circular(machine.Journal());
+    circular.AddKey(kUser, "Software");
+    const Machine real = machine.Parts();
+    const Machine parts{circular,     real.profileFiles, real.versionResources,
+                        real.files,   real.clock,        real.processes,
+                        real.token,   real.shell,        real.system,
+                        real.windows, real.cryptography};
+    EXPECT_FALSE(modRegistry(parts, desktop, "Velkarix").DeleteSubKeys(kUser, "Software"));
+    EXPECT_EQ(circular.OpenKeyCount(), 0u);
+    EXPECT_LT(machine.Journal().CountOf("RegOpenKeyExA"), 1000u);
+}
+
+// ---- Copying
+
+TEST_F(modRegistryTest, CopyKeyMakesTheDestinationAndCopiesTheTree) {
+    machine.SetValue(kUser, "Source", "Name", "text");
+    machine.SetDword(kUser, "Source\\Sub", "Number", 7);
+    EXPECT_TRUE(registry.CopyKey(kUser, "Source", kUser, "Target"));
+    EXPECT_EQ(machine.registry.TextAt(kUser, "Target", "Name"), "text");
+    EXPECT_EQ(machine.registry.ValueAt(kUser, "Target\\Sub", "Number")->data, (Bytes{7, 0, 0, 0}));
+    EXPECT_EQ(Calls(), (Strings{"RegCreateKeyA", "RegCloseKey", "RegOpenKeyExA", "SHCopyKeyA",
+                                "RegCloseKey"}));
+}
+
+TEST_F(modRegistryTest, CopyKeyOpensTheDestinationInTheHiveOfTheSource) {
+    machine.SetValue(kUser, "Source", "Name", "text");
+    EXPECT_FALSE(registry.CopyKey(kUser, "Source", kMachine, "Target"));
+    EXPECT_TRUE(machine.registry.HasKey(kMachine, "Target"));
+    EXPECT_FALSE(machine.registry.HasKey(kUser, "Target"));
+
+    machine.AddKey(kUser, "Target");
+    EXPECT_TRUE(registry.CopyKey(kUser, "Source", kMachine, "Target"));
+    EXPECT_EQ(machine.registry.TextAt(kUser, "Target", "Name"), "text");
+    EXPECT_FALSE(machine.registry.ValueAt(kMachine, "Target", "Name"));
+}
+
+TEST_F(modRegistryTest, CopyKeyOfAMissingSourceGivesFalse) {
+    EXPECT_FALSE(registry.CopyKey(kUser, "Source", kUser, "Target"));
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(modRegistryTest, CopyKeyTellsThatTheDestinationCantBeCreated) {
+    machine.AddKey(kUser, "Source");
+    machine.FailNext("RegCreateKeyA");
+    EXPECT_FALSE(registry.CopyKey(kUser, "Source", kUser, key));
+    EXPECT_EQ(OnlyMessage(), kNotCreated);
+}
+
+TEST_F(modRegistryTest, CopyKeyFailsInSilenceWhenTheCopyFails) {
+    machine.AddKey(kUser, "Source");
+    machine.FailNext("SHCopyKeyA");
+    EXPECT_FALSE(registry.CopyKey(kUser, "Source", kUser, "Target"));
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(modRegistryTest, CopyKeyNeedsToWriteInTheDestination) {
+    machine.AddKey(kUser, "Source");
+    machine.registry.Restrict(kUser, "Target", KeyAccess::Read);
+    EXPECT_FALSE(registry.CopyKey(kUser, "Source", kUser, "Target"));
+}
+
+TEST_F(modRegistryTest, CopyKeyCopiesByItselfWhereTheShellLibraryHasNoCallForIt) {
+    machine.registry.SetHasCopyKey(false);
+    machine.SetValue(kUser, "Source", "Name", "text");
+    machine.SetDword(kUser, "Source\\Sub", "Number", 7);
+    EXPECT_TRUE(registry.CopyKey(kUser, "Source", kUser, "Target"));
+    EXPECT_EQ(machine.registry.TextAt(kUser, "Target", "Name"), "text");
+    EXPECT_EQ(machine.registry.ValueAt(kUser, "Target\\Sub", "Number")->data, (Bytes{7, 0, 0, 0}));
+}
+
+}  // namespace
+}  // namespace velkarix

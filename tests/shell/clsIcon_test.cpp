@@ -1,0 +1,81 @@
+#include "shell/clsIcon.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/machine/MemoryMachine.h"
+
+namespace velkarix {
+namespace {
+
+const std::string kPath = "C:\\WINDOWS\\tool.exe";
+const Picture kLarge{2, 1, {0xFF000001, 0xFF000002}};
+const Picture kSmall{1, 1, {0xFF000003}};
+
+class clsIconTest : public testing::Test {
+  protected:
+    clsIconTest() { machine.AddFile(kPath).Icon(0, kLarge, kSmall).Icon(-7, kSmall, kLarge); }
+    void TearDown() override { EXPECT_EQ(machine.shell.OpenIconCount(), 0u); }
+
+    MemoryMachine machine;
+    clsIcon icons{machine.shell};
+};
+
+TEST_F(clsIconTest, DrawsTheWantedSizeAndDestroysBothHandles) {
+    EXPECT_EQ(icons.GetIconFromFile(kPath, 0, true), kLarge);
+    EXPECT_EQ(machine.Journal().Names(), (std::vector<std::string>{"ExtractIconExA", "DrawIconEx",
+                                                                   "DestroyIcon", "DestroyIcon"}));
+    EXPECT_EQ(icons.GetIconFromFile(kPath, 0, false), kSmall);
+}
+
+TEST_F(clsIconTest, TakesTheIndexAsTheSystemDoes) {
+    EXPECT_EQ(icons.GetIconFromFile(kPath, -7, true), kSmall);
+    EXPECT_EQ(machine.Journal().ArgumentsOf("ExtractIconExA"),
+              (std::vector<std::string>{kPath + ", -7"}));
+}
+
+TEST_F(clsIconTest, AFileWithoutThatIconGivesNothing) {
+    EXPECT_EQ(icons.GetIconFromFile(kPath, 1, true), std::nullopt);
+    EXPECT_EQ(icons.GetIconFromFile("C:\\missing.exe", 0, true), std::nullopt);
+    EXPECT_EQ(icons.GetIconFromFile("", 0, false), std::nullopt);
+    EXPECT_EQ(machine.Journal().CountOf("DrawIconEx"), 0u);
+}
+
+TEST_F(clsIconTest, BothHandlesAreDestroyedAlsoWhenDrawingFails) {
+    machine.FailNext("DrawIconEx");
+    EXPECT_EQ(icons.GetIconFromFile(kPath, 0, true), std::nullopt);
+    EXPECT_EQ(machine.Journal().CountOf("DestroyIcon"), 2u);
+}
+
+// A shell that reports what a test says.
+struct OddShell : MemoryShell {
+    using MemoryShell::MemoryShell;
+    ExtractedIcons ExtractIconExA(const std::string&, int) override { return icons; }
+    std::optional<Picture> DrawIconEx(IconHandle) override { return Picture{}; }
+    bool DestroyIcon(IconHandle icon) override {
+        destroyed.push_back(icon);
+        return true;
+    }
+
+    ExtractedIcons icons;
+    std::vector<IconHandle> destroyed;
+};
+
+TEST_F(clsIconTest, AnIconInTheOtherSizeOnlyIsNoneAndIsDestroyed) {
+    OddShell shell(machine.Journal(), machine.disk);
+    shell.icons = {1, 0, 5};
+    EXPECT_EQ(clsIcon(shell).GetIconFromFile(kPath, 0, true), std::nullopt);
+    EXPECT_EQ(shell.destroyed, (std::vector<IconHandle>{5}));
+}
+
+TEST_F(clsIconTest, HandlesOfACallThatReportsNoIconAreDestroyedToo) {
+    OddShell shell(machine.Journal(), machine.disk);
+    shell.icons = {0, 4, 5};
+    EXPECT_EQ(clsIcon(shell).GetIconFromFile(kPath, 0, true), std::nullopt);
+    EXPECT_EQ(shell.destroyed, (std::vector<IconHandle>{4, 5}));
+}
+
+}  // namespace
+}  // namespace velkarix
