@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "tests/conformance/Home.h"
 
 namespace velkarix {
@@ -13,6 +15,12 @@ constexpr std::uint32_t previous = 3;  // GW_HWNDPREV
 constexpr std::uint32_t next = 2;      // GW_HWNDNEXT
 constexpr int style = -16;
 
+// Mutexes outlive a test, so that a repeated one needs another name.
+std::string NewMutexName() {
+    static int count = 0;
+    return "VelkarixConformance." + std::to_string(++count);
+}
+
 }  // namespace
 
 class WindowConformance : public Conformance {
@@ -24,18 +32,21 @@ INSTANTIATE_TEST_SUITE_P(Home, WindowConformance, testing::ValuesIn(FamiliesOfHo
                          NameOfFamily);
 
 TEST_P(WindowConformance, AMutexIsNewOnlyOnce) {
-    EXPECT_FALSE(windows_.CreateMutexA("VelkarixConformance.Own"));
-    EXPECT_TRUE(windows_.CreateMutexA("VelkarixConformance.Own"));
+    const std::string name = NewMutexName();
+    EXPECT_FALSE(windows_.CreateMutexA(name));
+    EXPECT_TRUE(windows_.CreateMutexA(name));
 }
 
 TEST_P(WindowConformance, AMutexOfSomebodyElseExists) {
-    home_->MakeMutex("VelkarixConformance.Foreign");
-    EXPECT_TRUE(windows_.CreateMutexA("VelkarixConformance.Foreign"));
+    const std::string name = NewMutexName();
+    home_->MakeMutex(name);
+    EXPECT_TRUE(windows_.CreateMutexA(name));
 }
 
 TEST_P(WindowConformance, NamesOfMutexesCompareWithCase) {
-    home_->MakeMutex("VelkarixConformance.Case");
-    EXPECT_FALSE(windows_.CreateMutexA("VELKARIXCONFORMANCE.CASE"));
+    const std::string name = NewMutexName();
+    home_->MakeMutex("a" + name);
+    EXPECT_FALSE(windows_.CreateMutexA("A" + name));
 }
 
 TEST_P(WindowConformance, AWindowIsFoundByClassAndCaption) {
