@@ -43,11 +43,12 @@ bool PressDefaultButton(const FormWindow* form) {
     return button != nullptr && button->Raise("Click");
 }
 
-bool OnEnter(const FormWindow& form, const FormWindow* page, HWND focus) {
+// The focused control comes first, then the default button of the page, then that of the form.
+// Where there is none of these, Enter means nothing.
+void OnEnter(const FormWindow& form, const FormWindow* page, HWND focus) {
     ControlWindow* control = focus != nullptr ? ControlWindow::From(focus) : nullptr;
-    if (control != nullptr && control->OnEnter()) return true;
-    // A default button of the page or form; without one, Enter means nothing.
-    return PressDefaultButton(page) || PressDefaultButton(&form) || true;
+    if (control != nullptr && control->OnEnter()) return;
+    if (!PressDefaultButton(page)) PressDefaultButton(&form);
 }
 
 // Esc is the dialog's cancel button, and closes a dialog that has none.
@@ -70,7 +71,10 @@ bool ServeFormKeys(const FormWindows& forms, MSG& message) {
     if (message.message == WM_KEYDOWN) {
         FormWindow* page = forms.PageIn(*form);
         if (RaiseAccelerator(*form, page, message.wParam)) return true;
-        if (message.wParam == VK_RETURN) return OnEnter(*form, page, message.hwnd);
+        if (message.wParam == VK_RETURN) {
+            OnEnter(*form, page, message.hwnd);
+            return true;
+        }
         if (message.wParam == VK_ESCAPE && OnEscape(*form)) return true;
     }
     return IsDialogMessageA(form->Handle(), &message) != FALSE;

@@ -2,10 +2,9 @@
 #pragma once
 
 #include <memory>
-#include <vector>
 
 #include "forms/Form.h"
-#include "forms/win32/ControlWindow.h"
+#include "forms/win32/FormControls.h"
 #include "forms/win32/FormFocus.h"
 #include "forms/win32/FormTimers.h"
 #include "forms/win32/Handles.h"
@@ -26,8 +25,7 @@ class FormWindow : public Form::View {
     HWND Handle() const { return handle_; }
     Form& Model() const { return form_; }
     FormFocus& Focus() { return focus_; }
-    // Null when the control isn't of this form.
-    ControlWindow* WindowOf(const Control& control) const;
+    const FormControls& Controls() const { return *controls_; }
     // Parts the window from its form, which may go at once; the window is dead and hidden.
     void Detach();
     // The system's colours have changed.
@@ -38,18 +36,14 @@ class FormWindow : public Form::View {
 
   private:
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT OnControlMessage(UINT message, WPARAM wParam, LPARAM lParam);
-    void OnSize(const Size& inside) const;
     void OnActivate(bool active);
-    HWND DefaultButton() const;  // null when the form has none
-    void MakeControls();
     void SetIcons();
 
     DesktopContext& context_;
     Form& form_;
     HWND handle_ = nullptr;
     bool detached_ = false;
-    std::vector<std::unique_ptr<ControlWindow>> controls_;
+    std::unique_ptr<FormControls> controls_;
     std::unique_ptr<FormTimers> timers_;
     FormFocus focus_;
     OwnedIcon largeIcon_;

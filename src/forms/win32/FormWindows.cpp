@@ -66,7 +66,7 @@ FormWindow* FormWindows::PageIn(const FormWindow& form) const {
 
 ControlWindow* FormWindows::WindowOf(const Control& control) const {
     for (const auto& each : windows_) {
-        if (ControlWindow* window = each->WindowOf(control)) return window;
+        if (ControlWindow* window = each->Controls().WindowOf(control)) return window;
     }
     return nullptr;
 }

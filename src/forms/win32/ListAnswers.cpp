@@ -7,6 +7,17 @@
 
 namespace velkarix {
 
+namespace {
+
+LRESULT Find(ListView& list, int start, UINT flags, const char* typed) {
+    if ((flags & (LVFI_STRING | LVFI_PARTIAL)) == 0 || typed == nullptr) return -1;
+    const auto from = static_cast<std::size_t>(start < 0 ? 0 : start);
+    const std::optional<std::size_t> found = FindRowByPrefix(list, from, typed);
+    return found ? static_cast<LRESULT>(*found) : -1;
+}
+
+}  // namespace
+
 ListRow* RowAt(ListView& list, int position) {
     const auto index = static_cast<std::size_t>(position);
     return position >= 0 && index < list.RowCount() ? &list.Row(index) : nullptr;
@@ -39,10 +50,14 @@ LRESULT MarkDrawnRow(ListView& list, const Fonts& fonts, NMLVCUSTOMDRAW& draw) {
 }
 
 LRESULT FindTypedRow(ListView& list, const NMLVFINDITEMA& wanted) {
-    if ((wanted.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0) return -1;
-    const auto start = static_cast<std::size_t>(wanted.iStart < 0 ? 0 : wanted.iStart);
-    const std::optional<std::size_t> found = FindRowByPrefix(list, start, wanted.lvfi.psz);
-    return found ? static_cast<LRESULT>(*found) : -1;
+    return Find(list, wanted.iStart, wanted.lvfi.flags, wanted.lvfi.psz);
+}
+
+LRESULT FindTypedRow(ListView& list, const NMLVFINDITEMW& wanted) {
+    char typed[256] = "";
+    constexpr int size = static_cast<int>(sizeof(typed));
+    WideCharToMultiByte(CP_ACP, 0, wanted.lvfi.psz, -1, typed, size, nullptr, nullptr);
+    return Find(list, wanted.iStart, wanted.lvfi.flags, typed);
 }
 
 }  // namespace velkarix

@@ -14,7 +14,9 @@ ListRow* RowAt(ListView& list, int position);
 void DescribeRow(ListView& list, LVITEMA& item);
 // Gives a row's mark to its first column. The result is the answer to NM_CUSTOMDRAW.
 LRESULT MarkDrawnRow(ListView& list, const Fonts& fonts, NMLVCUSTOMDRAW& draw);
-// The position of the row that the user's typing leads to, or -1.
+// The position of the row that the user's typing leads to, or -1. Some systems ask in wide
+// letters whatever their parent speaks.
 LRESULT FindTypedRow(ListView& list, const NMLVFINDITEMA& wanted);
+LRESULT FindTypedRow(ListView& list, const NMLVFINDITEMW& wanted);
 
 }  // namespace velkarix

@@ -2,8 +2,8 @@
 
 #include <cstddef>
 
-#include "forms/win32/ColumnFit.h"
 #include "forms/win32/ListAnswers.h"
+#include "forms/win32/ListColumns.h"
 
 namespace velkarix {
 
@@ -23,7 +23,7 @@ ListViewWindow::ListViewWindow(DesktopContext& context, ListView& list, const Co
       images_(context.instance, context.dpi.Pixels(ImageSizeAt96)) {
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, ExtendedStyle, ExtendedStyle);
     Send(LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK);
-    InsertColumns();
+    InsertColumns(Handle(), list);
     context.pending.Add(*this);
 }
 
@@ -32,27 +32,6 @@ void ListViewWindow::Detach() {
     // The native list destroys what image lists it has at its end: its check boxes, not ours.
     Send(LVM_SETIMAGELIST, LVSIL_SMALL, 0);
     ControlWindow::Detach();
-}
-
-void ListViewWindow::InsertColumns() {
-    for (std::size_t i = 0; i < list_.Columns().size(); ++i) {
-        LVCOLUMNA column{};
-        column.mask = LVCF_SUBITEM;
-        column.iSubItem = static_cast<int>(i);
-        Send(LVM_INSERTCOLUMNA, i, reinterpret_cast<LPARAM>(&column));
-    }
-    ShowCaptions();
-    ShareColumns(Handle(), list_.Columns().size());
-}
-
-void ListViewWindow::ShowCaptions() {
-    for (std::size_t i = 0; i < list_.Columns().size(); ++i) {
-        std::string caption = list_.Columns()[i];
-        LVCOLUMNA column{};
-        column.mask = LVCF_TEXT;
-        column.pszText = caption.data();
-        Send(LVM_SETCOLUMNA, i, reinterpret_cast<LPARAM>(&column));
-    }
 }
 
 void ListViewWindow::Changed(Aspect aspect) {
@@ -69,7 +48,7 @@ void ListViewWindow::Changed(Aspect aspect) {
             fitWanted_ = true;
             break;
         case Aspect::Columns:
-            ShowCaptions();
+            ShowColumnCaptions(Handle(), list_);
             return;
         default:
             ControlWindow::Changed(aspect);
@@ -117,14 +96,13 @@ LRESULT ListViewWindow::OnNotify(NMHDR& header) {
             return MarkDrawnRow(list_, Context().fonts, reinterpret_cast<NMLVCUSTOMDRAW&>(header));
         case LVN_ODFINDITEMA:
             return FindTypedRow(list_, reinterpret_cast<NMLVFINDITEMA&>(header));
+        case LVN_ODFINDITEMW:
+            return FindTypedRow(list_, reinterpret_cast<NMLVFINDITEMW&>(header));
         case LVN_ITEMCHANGED:
             OnItemChanged(reinterpret_cast<NMLISTVIEW&>(header));
             return 0;
         case LVN_COLUMNCLICK:
             list_.UserColumnClick(reinterpret_cast<NMLISTVIEW&>(header).iSubItem + 1);
-            return 0;
-        case LVN_KEYDOWN:
-            OnKey(reinterpret_cast<NMLVKEYDOWN&>(header).wVKey);
             return 0;
         case NM_CLICK:
             OnClick(reinterpret_cast<NMITEMACTIVATE&>(header));
@@ -134,7 +112,7 @@ LRESULT ListViewWindow::OnNotify(NMHDR& header) {
             return 0;
         case NM_RCLICK:
             // The release of the button itself comes as WM_CONTEXTMENU.
-            if (reinterpret_cast<NMITEMACTIVATE&>(header).iItem < 0) list_.UserSelect(nullptr);
+            TellIfNothingIsSelected();
             return 0;
         default:
             return 0;
@@ -147,7 +125,11 @@ LRESULT ListViewWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         OnContextMenu(lParam);
         return 0;
     }
-    // Space ticks a row and is no letter to search for.
+    // Space ticks the focused row. The native list would select it and search for a blank.
+    if (message == WM_KEYDOWN && wParam == VK_SPACE) {
+        Toggle(FocusedPosition());
+        return 0;
+    }
     if (message == WM_CHAR && wParam == ' ') return 0;
     return ControlWindow::OnMessage(message, wParam, lParam);
 }
@@ -160,9 +142,15 @@ void ListViewWindow::OnItemChanged(const NMLISTVIEW& change) {
     if (row != nullptr && row != list_.SelectedRow()) list_.UserSelect(row);
 }
 
+// A click beside all rows, or one with Ctrl on the selected row.
+void ListViewWindow::TellIfNothingIsSelected() {
+    const LRESULT selected = Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED);
+    if (selected < 0) list_.UserSelect(nullptr);
+}
+
 void ListViewWindow::OnClick(const NMITEMACTIVATE& click) {
     if (ToggleIfOnCheckBox(click.ptAction)) return;
-    if (click.iItem < 0) list_.UserSelect(nullptr);
+    TellIfNothingIsSelected();
     list_.UserMouseUp(MouseButton::Left);
 }
 
@@ -170,10 +158,8 @@ void ListViewWindow::OnDoubleClick(const NMITEMACTIVATE& click) {
     if (!ToggleIfOnCheckBox(click.ptAction)) list_.Raise("DblClick");
 }
 
-void ListViewWindow::OnKey(WORD key) {
-    if (key == VK_SPACE) {
-        Toggle(static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED)));
-    }
+int ListViewWindow::FocusedPosition() const {
+    return static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
 }
 
 bool ListViewWindow::ToggleIfOnCheckBox(const POINT& point) {
@@ -206,11 +192,11 @@ void ListViewWindow::OnContextMenu(LPARAM where) {
 
 POINT ListViewWindow::BesideFocusedRow() const {
     POINT point{0, 0};
-    const LRESULT focused = Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED);
-    if (focused >= 0) {
-        Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(focused), FALSE);
+    if (const int focused = FocusedPosition(); focused >= 0) {
+        const auto position = static_cast<WPARAM>(focused);
+        Send(LVM_ENSUREVISIBLE, position, FALSE);
         RECT label{LVIR_LABEL, 0, 0, 0};
-        Send(LVM_GETITEMRECT, static_cast<WPARAM>(focused), reinterpret_cast<LPARAM>(&label));
+        Send(LVM_GETITEMRECT, position, reinterpret_cast<LPARAM>(&label));
         point = {label.left, label.bottom};
     }
     ClientToScreen(Handle(), &point);

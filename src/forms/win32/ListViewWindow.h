@@ -23,19 +23,18 @@ class ListViewWindow : public ControlWindow, private Refreshable {
   private:
     // The window catches up with the model.
     void Refresh() override;
-    void InsertColumns();
-    void ShowCaptions();
     void ShowSelection();
 
     // What the user did.
     void OnItemChanged(const NMLISTVIEW& change);
+    void TellIfNothingIsSelected();
     void OnClick(const NMITEMACTIVATE& click);
     void OnDoubleClick(const NMITEMACTIVATE& click);
-    void OnKey(WORD key);
     void OnContextMenu(LPARAM where);
 
     bool ToggleIfOnCheckBox(const POINT& point);
     void Toggle(int position);
+    int FocusedPosition() const;  // -1 when no row has the focus
     POINT BesideFocusedRow() const;
 
     ListView& list_;

@@ -1,5 +1,7 @@
 #include "forms/win32/Win32Desktop.h"
 
+#include <vector>
+
 #include "forms/win32/ApplicationWindow.h"
 #include "forms/win32/EventLoop.h"
 #include "forms/win32/FormFrame.h"
@@ -24,16 +26,18 @@ struct Win32Desktop::Windows {
     FormWindows forms{context};
     ApplicationWindow application{context, forms};
     EventLoop loop{context, forms};
+    std::vector<HWND> dialogs;  // shown modally, the top one last
 
     HWND HostOf(const FormWindow& page) const { return GetParent(page.Handle()); }
     FormWindow* FormAround(HWND window) const { return forms.WithHandle(TopLevelOf(window)); }
 
-    // The form that the user works in, to own what is asked of him; null when none is shown.
-    HWND ActiveForm() const {
-        const FormWindow* active = forms.WithHandle(GetActiveWindow());
-        if (active == nullptr) active = forms.Main();
-        return active != nullptr && IsWindowVisible(active->Handle()) != FALSE ? active->Handle()
-                                                                               : nullptr;
+    // Owns what the user is asked now: the top dialog, else the main form; null when hidden.
+    HWND AskingWindow() const {
+        const FormWindow* main = forms.Main();
+        const HWND window = !dialogs.empty()  ? dialogs.back()
+                            : main != nullptr ? main->Handle()
+                                              : nullptr;
+        return window != nullptr && IsWindowVisible(window) != FALSE ? window : nullptr;
     }
 };
 
@@ -79,8 +83,10 @@ void Win32Desktop::ShowModal(Form& form, Form& owner) {
     SetWindowLongPtrA(dialog->Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(around));
     CentreOver(dialog->Handle(), around);
     const bool wasEnabled = EnableWindow(around, FALSE) == FALSE;
+    windows_->dialogs.push_back(dialog->Handle());
     ShowWindow(dialog->Handle(), SW_SHOW);
     windows_->loop.Run([&form] { return form.Closing(); });
+    windows_->dialogs.pop_back();
     // The owner first: a dialog that goes hands its activity to an enabled owner only.
     if (wasEnabled) EnableWindow(around, TRUE);
     ShowWindow(dialog->Handle(), SW_HIDE);
@@ -112,7 +118,7 @@ void Win32Desktop::Focus(Control& control) {
 
 MessageAnswer Win32Desktop::ShowMessage(const Message& message) {
     windows_->context.pending.Run();
-    return ShowMessageBox(windows_->ActiveForm(), message);
+    return ShowMessageBox(windows_->AskingWindow(), message);
 }
 
 std::optional<std::string> Win32Desktop::PopUp(Form& owner, const Menu& menu) {

@@ -17,7 +17,7 @@ class WindowClass {
         windowClass.hInstance = instance;
         windowClass.lpszClassName = name;
         windowClass.lpfnWndProc = procedure;
-        windowClass.hCursor = LoadCursorA(nullptr, MAKEINTRESOURCEA(32512));  // the arrow
+        windowClass.hCursor = LoadCursorA(nullptr, IDC_ARROW);
         windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_3DFACE + 1);
         RegisterClassA(&windowClass);
     }

@@ -1,4 +1,4 @@
-#include "forms/win32/ColumnFit.h"
+#include "forms/win32/ListColumns.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -64,6 +64,28 @@ int InsideWidth(HWND list) {
 
 }  // namespace
 
+void InsertColumns(HWND list, const ListView& model) {
+    const int count = static_cast<int>(model.Columns().size());
+    LVCOLUMNA column{};
+    column.mask = LVCF_SUBITEM | LVCF_WIDTH;
+    column.cx = InsideWidth(list) / count;
+    for (column.iSubItem = 0; column.iSubItem < count; ++column.iSubItem) {
+        SendMessageA(list, LVM_INSERTCOLUMNA, static_cast<WPARAM>(column.iSubItem),
+                     reinterpret_cast<LPARAM>(&column));
+    }
+    ShowColumnCaptions(list, model);
+}
+
+void ShowColumnCaptions(HWND list, const ListView& model) {
+    WPARAM position = 0;
+    for (std::string caption : model.Columns()) {
+        LVCOLUMNA column{};
+        column.mask = LVCF_TEXT;
+        column.pszText = caption.data();
+        SendMessageA(list, LVM_SETCOLUMNA, position++, reinterpret_cast<LPARAM>(&column));
+    }
+}
+
 // Not by the list's own fitting (LVSCW_AUTOSIZE_USEHEADER), which would ask for every row once a
 // column or measure only those in sight, depending on the system.
 void FitColumns(HWND list, ListView& model, const DesktopContext& context) {
@@ -81,13 +103,6 @@ void FitColumns(HWND list, ListView& model, const DesktopContext& context) {
             std::max({header, last ? content : std::min(content, sensible), last ? left : 0});
         SendMessageA(list, LVM_SETCOLUMNWIDTH, column, width);
         left -= width;
-    }
-}
-
-void ShareColumns(HWND list, std::size_t columns) {
-    const int width = InsideWidth(list) / static_cast<int>(columns);
-    for (std::size_t column = 0; column < columns; ++column) {
-        SendMessageA(list, LVM_SETCOLUMNWIDTH, column, width);
     }
 }
 
