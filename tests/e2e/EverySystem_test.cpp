@@ -1,0 +1,96 @@
+// What must hold on each of the systems that the program is made for.
+#include <algorithm>
+
+#include "Input.h"
+#include "ProgramTest.h"
+#include "Screen.h"
+#include "Setup.h"
+#include "Wait.h"
+
+namespace velkarix::e2e {
+namespace {
+
+class EverySystem : public ProgramTest {
+  protected:
+    // The older family gives the names of files without their folders, so there the lists know the
+    // files by name.
+    EverySystem() {
+        if (!IsSystemOf95Family()) return;
+        install_.Write("SusProcess.vkl", install_.Read("SusProcess.vkl") + "samplesuspect.exe\r\n");
+        install_.Write("SystemProcess.vkl",
+                       install_.Read("SystemProcess.vkl") + "services.exe\r\n");
+    }
+    bool IsRed(const std::string& name) {
+        return CountPixels(List().LabelArea(RowOf(name)), IsReddish) > 0;
+    }
+};
+
+TEST_F(EverySystem, TheProgramStartsAndEnds) {
+    EXPECT_EQ(Start().Main().Text(), "Velkarix Version: 1.0");
+    EXPECT_EQ(Running().Close(), 0u);
+}
+
+TEST_F(EverySystem, RunningProgramsAreListedByItsOwnMethod) {
+    Start();
+    const RowTexts row = List().Row(RowOf("SampleIdle.exe"));
+    if (IsSystemOf95Family()) {
+        EXPECT_EQ(row, (RowTexts{"SampleIdle.exe", "", "", "", "", "", ""}));
+    } else {
+        EXPECT_EQ(row[3], "Sample Works");
+        EXPECT_EQ(row[6], "C:\\Samples\\");
+    }
+}
+
+TEST_F(EverySystem, TheListsJudgeWhatRuns) {
+    Start();
+    SelectRow("SampleSafe.exe");
+    EXPECT_TRUE(WaitUntil([this] { return IsRed("SampleSuspect.exe"); }));
+    EXPECT_FALSE(IsRed("SampleIdle.exe"));
+    EXPECT_FALSE(List().Find("services.exe"));
+}
+
+TEST_F(EverySystem, AllShowsEveryProcess) {
+    Start();
+    const int filtered = List().RowCount();
+    ASSERT_TRUE(Running().Press("optFilter(0)"));
+    EXPECT_GT(List().RowCount(), filtered);
+    EXPECT_TRUE(List().Find("services.exe"));
+}
+
+TEST_F(EverySystem, RefreshShowsWhatHasStarted) {
+    Start();
+    const int before = List().RowCount();
+    const Process late(SamplePath("SampleIdle.exe"));
+    ASSERT_TRUE(Running().Press("cmdRefresh"));
+    EXPECT_EQ(List().RowCount(), before + 1);
+}
+
+TEST_F(EverySystem, EachPageCanBeEntered) {
+    Start();
+    for (const char* each : {"IE", "Startup", "Addremove", "Options", "Utilities"}) {
+        ASSERT_TRUE(Running().Press(std::string("cmd") + each));
+        EXPECT_TRUE(Running().Control("lblToCome").Visible()) << each;
+    }
+    ASSERT_TRUE(Running().Press("cmdProcess"));
+    EXPECT_TRUE(List().Find("SampleIdle.exe"));
+}
+
+TEST_F(EverySystem, TheSafeListHidesAFile) {
+    Start();
+    BringToFront(Running().Main());
+    ClickAt(List().CheckBox(RowOf("SampleSafe.exe")));
+    ASSERT_TRUE(WaitUntil([this] { return List().Checked(RowOf("SampleSafe.exe")); }));
+    ASSERT_TRUE(Running().Press("cmdAdd"));
+    EXPECT_FALSE(List().Find("SampleSafe.exe"));
+    ASSERT_TRUE(Running().Press("cmdRefresh"));
+    EXPECT_FALSE(List().Find("SampleSafe.exe"));
+}
+
+TEST_F(EverySystem, ASecondInstanceEnds) {
+    Start();
+    EXPECT_EQ(Process(install_.Path("Velkarix.exe"), install_.Folder()).WaitForExit(), 0u);
+    EXPECT_TRUE(Running().OwnProcess().Running());
+}
+
+}  // namespace
+}  // namespace velkarix::e2e

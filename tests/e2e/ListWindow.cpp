@@ -1,0 +1,180 @@
+#include "ListWindow.h"
+
+#include <windows.h>
+#include <commctrl.h>
+
+#include <array>
+
+#include "RemoteMemory.h"
+
+namespace velkarix::e2e {
+
+namespace {
+
+constexpr int TextSize = 1024;
+
+// A structure with a text behind it, in the memory of the list's process.
+template <typename Structure>
+struct WithText {
+    Structure structure{};
+    std::array<char, TextSize> text{};
+};
+
+RECT ToScreen(HWND window, RECT area) {
+    MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&area), 2);
+    return area;
+}
+
+POINT Middle(const RECT& area) {
+    return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+}
+
+}  // namespace
+
+int ListWindow::RowCount() const {
+    return static_cast<int>(Send(LVM_GETITEMCOUNT));
+}
+
+Window ListWindow::HeaderWindow() const {
+    return Window(reinterpret_cast<HWND>(Send(LVM_GETHEADER)));
+}
+
+int ListWindow::ColumnCount() const {
+    return static_cast<int>(HeaderWindow().Send(HDM_GETITEMCOUNT));
+}
+
+std::vector<std::string> ListWindow::ColumnCaptions() const {
+    std::vector<std::string> captions;
+    const Window header = HeaderWindow();
+    for (int i = 0; i < ColumnCount(); ++i) {
+        WithText<HDITEMA> item;
+        const RemoteMemory memory(Handle(), sizeof item);
+        item.structure.mask = HDI_TEXT;
+        item.structure.pszText = static_cast<char*>(memory.Address(offsetof(decltype(item), text)));
+        item.structure.cchTextMax = TextSize;
+        memory.Write(0, &item, sizeof item);
+        header.Send(HDM_GETITEMA, static_cast<WPARAM>(i),
+                    reinterpret_cast<LPARAM>(memory.Address()));
+        memory.Read(0, &item, sizeof item);
+        captions.emplace_back(item.text.data());
+    }
+    return captions;
+}
+
+std::vector<int> ListWindow::ColumnWidths() const {
+    std::vector<int> widths;
+    for (int i = 0; i < ColumnCount(); ++i) {
+        widths.push_back(static_cast<int>(Send(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(i))));
+    }
+    return widths;
+}
+
+std::string ListWindow::Text(int row, int column) const {
+    WithText<LVITEMA> item;
+    const RemoteMemory memory(Handle(), sizeof item);
+    const std::size_t text = offsetof(decltype(item), text);
+    item.structure.iSubItem = column;
+    item.structure.pszText = static_cast<char*>(memory.Address(text));
+    item.structure.cchTextMax = TextSize;
+    memory.Write(0, &item, sizeof item);
+    Send(LVM_GETITEMTEXTA, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(memory.Address()));
+    memory.Read(0, &item, sizeof item);
+    return item.text.data();
+}
+
+RowTexts ListWindow::Row(int row) const {
+    RowTexts texts;
+    const int columns = ColumnCount();
+    for (int column = 0; column < columns; ++column) texts.push_back(Text(row, column));
+    return texts;
+}
+
+std::vector<RowTexts> ListWindow::Rows() const {
+    std::vector<RowTexts> rows;
+    const int count = RowCount();
+    for (int row = 0; row < count; ++row) rows.push_back(Row(row));
+    return rows;
+}
+
+std::vector<std::string> ListWindow::Column(int column) const {
+    std::vector<std::string> texts;
+    const int count = RowCount();
+    for (int row = 0; row < count; ++row) texts.push_back(Text(row, column));
+    return texts;
+}
+
+std::optional<int> ListWindow::Find(const std::string& text) const {
+    const int count = RowCount();
+    for (int row = 0; row < count; ++row) {
+        if (lstrcmpiA(Text(row, 0).c_str(), text.c_str()) == 0) return row;
+    }
+    return std::nullopt;
+}
+
+bool ListWindow::HasState(int row, UINT state) const {
+    return (static_cast<UINT>(
+                Send(LVM_GETITEMSTATE, static_cast<WPARAM>(row), static_cast<LPARAM>(state))) &
+            state) == state;
+}
+
+bool ListWindow::Checked(int row) const {
+    // The state image 1 is the empty box, 2 the ticked one.
+    const auto image =
+        static_cast<UINT>(Send(LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_STATEIMAGEMASK));
+    return image >> 12 == 2;
+}
+
+std::optional<int> ListWindow::Selected() const {
+    const int count = RowCount();
+    for (int row = 0; row < count; ++row) {
+        if (HasState(row, LVIS_SELECTED)) return row;
+    }
+    return std::nullopt;
+}
+
+std::optional<int> ListWindow::Focused() const {
+    const int count = RowCount();
+    for (int row = 0; row < count; ++row) {
+        if (HasState(row, LVIS_FOCUSED)) return row;
+    }
+    return std::nullopt;
+}
+
+RECT ListWindow::Area(int row, int part) const {
+    RECT area{part, 0, 0, 0};
+    const RemoteMemory memory(Handle(), sizeof area);
+    memory.Write(0, &area, sizeof area);
+    Send(LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(memory.Address()));
+    memory.Read(0, &area, sizeof area);
+    return ToScreen(Handle(), area);
+}
+
+RECT ListWindow::RowArea(int row) const {
+    return Area(row, LVIR_BOUNDS);
+}
+
+RECT ListWindow::LabelArea(int row) const {
+    return Area(row, LVIR_LABEL);
+}
+
+POINT ListWindow::CheckBox(int row) const {
+    const RECT bounds = Area(row, LVIR_BOUNDS);
+    const RECT icon = Area(row, LVIR_ICON);
+    return Middle({bounds.left, bounds.top, icon.left, bounds.bottom});
+}
+
+POINT ListWindow::Header(int column) const {
+    RECT area{};
+    const Window header = HeaderWindow();
+    const RemoteMemory memory(Handle(), sizeof area);
+    header.Send(HDM_GETITEMRECT, static_cast<WPARAM>(column),
+                reinterpret_cast<LPARAM>(memory.Address()));
+    memory.Read(0, &area, sizeof area);
+    return Middle(ToScreen(header.Handle(), area));
+}
+
+void ListWindow::Show(int row) const {
+    Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+}
+
+}  // namespace velkarix::e2e

@@ -1,0 +1,108 @@
+#include "ObjectCounts.h"
+
+#include <windows.h>
+#include <winternl.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <vector>
+
+#include "AskInside.h"
+
+namespace velkarix::e2e {
+
+namespace {
+
+// A function that isn't in every system's libraries; null when this one's lacks it.
+template <typename Call>
+Call LateCall(const char* library, const char* name) {
+    return reinterpret_cast<Call>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA(library), name)));
+}
+
+// What the system's table of all handles says of one of them (32-bit systems).
+struct HandleEntry {
+    std::uint32_t process;
+    std::uint8_t type;
+    std::uint8_t flags;
+    std::uint16_t handle;
+    std::uint32_t object;
+    std::uint32_t access;
+};
+
+// Where the system's own count is a stub, as it is in Wine, the table of all handles isn't.
+DWORD HandlesInTable(DWORD processId) {
+    using Query = LONG(WINAPI*)(int, void*, ULONG, ULONG*);
+    constexpr int HandleInformation = 16;
+    const auto query = LateCall<Query>("ntdll.dll", "NtQuerySystemInformation");
+    std::vector<std::uint8_t> table(1 << 20);
+    if (query == nullptr ||
+        query(HandleInformation, table.data(), static_cast<ULONG>(table.size()), nullptr) != 0) {
+        return 0;
+    }
+    std::uint32_t count = 0;
+    std::memcpy(&count, table.data(), sizeof count);
+    std::vector<HandleEntry> entries(count);
+    std::memcpy(entries.data(), table.data() + sizeof count, count * sizeof(HandleEntry));
+    return static_cast<DWORD>(std::ranges::count(entries, processId, &HandleEntry::process));
+}
+
+DWORD KernelHandles(const Process& process) {
+    using Query = BOOL(WINAPI*)(HANDLE, PDWORD);
+    const auto query = LateCall<Query>("kernel32.dll", "GetProcessHandleCount");
+    DWORD count = 0;
+    if (query != nullptr && query(process.Handle(), &count) && count > 0) return count;
+    return HandlesInTable(process.Id());
+}
+
+// An entry of the table of GDI objects that lies in each process (32-bit systems).
+struct GdiEntry {
+    std::uint64_t object;
+    std::uint32_t owner;
+    std::uint16_t generation;
+    std::uint8_t type;  // 0 in an entry that isn't used
+    std::uint8_t flags;
+    std::uint64_t user;
+};
+static_assert(sizeof(GdiEntry) == 24);
+
+DWORD GdiObjectsInTable(HANDLE process) {
+    using Query = LONG(WINAPI*)(HANDLE, int, void*, ULONG, ULONG*);
+    constexpr std::size_t TableInBlock = 0x94;
+    constexpr std::size_t TableSize = 16384;
+    const auto query = LateCall<Query>("ntdll.dll", "NtQueryInformationProcess");
+    PROCESS_BASIC_INFORMATION basic{};
+    if (query == nullptr ||
+        query(process, ProcessBasicInformation, &basic, sizeof basic, nullptr) != 0) {
+        return 0;
+    }
+    void* address = nullptr;
+    const char* block = reinterpret_cast<const char*>(basic.PebBaseAddress);
+    ReadProcessMemory(process, block + TableInBlock, &address, sizeof address, nullptr);
+    std::vector<GdiEntry> table(TableSize);
+    if (!ReadProcessMemory(process, address, table.data(), TableSize * sizeof(GdiEntry), nullptr)) {
+        return 0;
+    }
+    return static_cast<DWORD>(
+        std::ranges::count_if(table, [](const GdiEntry& entry) { return entry.type != 0; }));
+}
+
+}  // namespace
+
+ObjectCounts CountObjects(const Program& program) {
+    const Process& process = program.OwnProcess();
+    ObjectCounts counts;
+    counts.user = GetGuiResources(process.Handle(), GR_USEROBJECTS);
+    if (counts.user == 0) {
+        counts.user = static_cast<DWORD>(
+            std::atoi(AskInside(program.Main(), CountUserObjectsQuestion).c_str()));
+    }
+    counts.gdi = GetGuiResources(process.Handle(), GR_GDIOBJECTS);
+    if (counts.gdi == 0) counts.gdi = GdiObjectsInTable(process.Handle());
+    counts.kernel = KernelHandles(process);
+    return counts;
+}
+
+}  // namespace velkarix::e2e

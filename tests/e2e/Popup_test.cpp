@@ -1,0 +1,139 @@
+// The popup menu of the process list: how it opens, which entries are grey, what they run.
+#include "Input.h"
+#include "MenuWindow.h"
+#include "ProgramTest.h"
+#include "Setup.h"
+#include "Wait.h"
+
+namespace velkarix::e2e {
+namespace {
+
+using Entries = std::vector<std::string>;
+
+class Popup : public ProgramTest {
+  protected:
+    Popup() { Start(); }
+    void RightClick(const std::string& name) {
+        SelectRow(name);
+        ClickAt(Inside(List().LabelArea(RowOf(name))), Mouse::Right);
+    }
+    Window Menu() { return WaitForPopup(Running().Id()); }
+    // The entries as a reader sees them: grey ones in brackets, separators as dashes.
+    static Entries Captions(const Window& popup) {
+        Entries captions;
+        for (const MenuItem& item : ReadMenu(popup)) {
+            if (item.separator) {
+                captions.emplace_back("-");
+            } else {
+                captions.push_back(item.enabled ? item.caption : "(" + item.caption + ")");
+            }
+        }
+        return captions;
+    }
+};
+
+TEST_F(Popup, ARightClickOffersAddingInFiltered) {
+    RightClick("SampleIdle.exe");
+    const Window popup = Menu();
+    EXPECT_EQ(
+        Captions(popup),
+        (Entries{"&Add Checked to Safe list", "(&Remove checked from Safe list)", "-",
+                 "&Kill Process", "&Delete Process", "-", "&View Information", "&Generate Report",
+                 "-", "&Open Folder", "&Refresh", "-", "&Search Google"}));
+    EXPECT_TRUE(ClosePopup(popup));
+}
+
+TEST_F(Popup, ARightClickOffersRemovingInAll) {
+    ASSERT_TRUE(Running().Press("optFilter(0)"));
+    RightClick("SampleIdle.exe");
+    const Window popup = Menu();
+    const Entries entries = Captions(popup);
+    ASSERT_EQ(entries.size(), 13u);
+    EXPECT_EQ(entries[0], "(&Add Checked to Safe list)");
+    EXPECT_EQ(entries[1], "&Remove checked from Safe list");
+    EXPECT_TRUE(ClosePopup(popup));
+}
+
+TEST_F(Popup, ARightClickSelectsTheRowUnderIt) {
+    SelectRow("SampleSafe.exe");
+    ClickAt(Inside(List().LabelArea(RowOf("SampleIdle.exe"))), Mouse::Right);
+    const Window popup = Menu();
+    ASSERT_TRUE(popup);
+    EXPECT_EQ(List().Selected(), RowOf("SampleIdle.exe"));
+    EXPECT_TRUE(ClosePopup(popup));
+}
+
+TEST_F(Popup, AFileThatIsGoneGreysWhatNeedsIt) {
+    // Copied, started and renamed away under the program's feet.
+    const std::string folder = install_.Path("Gone");
+    CreateDirectoryA(folder.c_str(), nullptr);
+    CopyFileA(SamplePath("SampleIdle.exe").c_str(), (folder + "\\Going.exe").c_str(), TRUE);
+    const Process going(folder + "\\Going.exe");
+    ASSERT_TRUE(going);
+    ASSERT_TRUE(Running().Press("cmdRefresh"));
+    ASSERT_TRUE(MoveFileA((folder + "\\Going.exe").c_str(), (folder + "\\Other.exe").c_str()));
+    RightClick("Going.exe");
+    const Window popup = Menu();
+    const Entries entries = Captions(popup);
+    ASSERT_EQ(entries.size(), 13u);
+    EXPECT_EQ(entries[4], "(&Delete Process)");
+    EXPECT_EQ(entries[9], "&Open Folder");
+    EXPECT_TRUE(ClosePopup(popup));
+    EXPECT_FALSE(Running().Control("cmdDelete").Enabled());
+    EXPECT_TRUE(Running().Control("cmdOpen").Enabled());
+}
+
+TEST_F(Popup, TheMenuKeyOpensItBesideTheRow) {
+    SelectRow("SampleIdle.exe");
+    PressKey(VK_APPS);
+    const Window popup = Menu();
+    ASSERT_TRUE(popup);
+    const RECT row = List().RowArea(RowOf("SampleIdle.exe"));
+    EXPECT_GE(popup.Area().top, row.top);
+    EXPECT_LE(popup.Area().top, row.bottom + 4);
+    EXPECT_TRUE(ClosePopup(popup));
+}
+
+TEST_F(Popup, ShiftF10OpensIt) {
+    SelectRow("SampleIdle.exe");
+    PressKey(VK_F10, {VK_SHIFT});
+    const Window popup = Menu();
+    ASSERT_TRUE(popup);
+    EXPECT_EQ(Captions(popup).size(), 13u);
+    EXPECT_TRUE(ClosePopup(popup));
+}
+
+TEST_F(Popup, TheEntryRefreshRuns) {
+    const int before = List().RowCount();
+    RightClick("SampleIdle.exe");
+    const Process late(SamplePath("SampleIdle.exe"));
+    ASSERT_TRUE(ChooseEntry(Menu(), "&Refresh"));
+    EXPECT_TRUE(WaitUntil([&] { return List().RowCount() == before + 1; }));
+}
+
+TEST_F(Popup, TheEntryViewInformationRuns) {
+    RightClick("SampleIdle.exe");
+    ASSERT_TRUE(ChooseEntry(Menu(), "&View Information"));
+    const Window dialog = Running().Dialog("frmviewInfo");
+    ASSERT_TRUE(dialog);
+    EXPECT_EQ(dialog.Find("txtName").Text(), "SampleIdle.exe");
+    EXPECT_TRUE(dialog.Find("cmdOk").Click());
+}
+
+TEST_F(Popup, TheEntrySearchGoogleRuns) {
+    RightClick("SampleSuspect.exe");
+    ASSERT_TRUE(ChooseEntry(Menu(), "&Search Google"));
+    EXPECT_NE(Opened().find("search?q=SampleSuspect.exe+Sample+Works"), std::string::npos);
+}
+
+TEST_F(Popup, AnAccessKeyRunsItsEntry) {
+    RightClick("SampleIdle.exe");
+    ASSERT_TRUE(Menu());
+    PressKey('V');
+    const Window dialog = Running().Dialog("frmviewInfo");
+    ASSERT_TRUE(dialog);
+    EXPECT_TRUE(dialog.Find("cmdOk").Click());
+}
+
+}  // namespace
+}  // namespace velkarix::e2e

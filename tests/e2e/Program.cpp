@@ -1,0 +1,82 @@
+#include "Program.h"
+
+#include "Wait.h"
+
+namespace velkarix::e2e {
+
+namespace {
+
+constexpr int MessageTextId = 65535;
+
+bool IsMessageBox(const Window& window) {
+    return window.Class() == "#32770" && window.Name().empty() &&
+           GetDlgItem(window.Handle(), MessageTextId) != nullptr;
+}
+
+}  // namespace
+
+Program::Program(const Install& install)
+    : process_(install.Path("Velkarix.exe"), install.Folder()) {
+    process_.WaitIdle();
+}
+
+Program::~Program() {
+    if (!process_.Running()) return;
+    // What a failed test left open goes first.
+    for (const Window& window : TopWindows(Id())) window.Post(WM_CLOSE);
+    WaitForSingleObject(process_.Handle(), 3000);
+}
+
+Window Program::Main() const {
+    return WaitFor([this] { return TopWindow(Id(), "frmMain"); });
+}
+
+Window Program::Control(const std::string& name) const {
+    const Window main = Main();
+    return WaitFor([&] { return main.Find(name); });
+}
+
+ListWindow Program::Processes() const {
+    return ListWindow(Control("lstvProcess"));
+}
+
+Window Program::Dialog(const std::string& name) const {
+    return WaitFor([&] { return TopWindow(Id(), name); });
+}
+
+Window Program::Message() const {
+    return WaitFor([this] {
+        for (const Window& window : TopWindows(Id())) {
+            if (IsMessageBox(window)) return window;
+        }
+        return Window();
+    });
+}
+
+std::string Program::Focus() const {
+    return FocusOf(Main().Thread()).Name();
+}
+
+bool Program::Press(const std::string& name) const {
+    const Window button = Control(name);
+    if (!button.Visible() || !button.Enabled()) return false;
+    DWORD_PTR result = 0;
+    return SendMessageTimeoutA(button.Handle(), BM_CLICK, 0, 0, SMTO_NORMAL, Patience, &result) !=
+           0;
+}
+
+std::optional<DWORD> Program::Close() {
+    if (!Main().Post(WM_CLOSE)) return std::nullopt;
+    return process_.WaitForExit();
+}
+
+std::string MessageText(const Window& message) {
+    return Window(GetDlgItem(message.Handle(), MessageTextId)).Text();
+}
+
+bool Answer(const Window& message, int button) {
+    if (!Window(GetDlgItem(message.Handle(), button)).Click()) return false;
+    return WaitUntil([&] { return !message; });
+}
+
+}  // namespace velkarix::e2e

@@ -1,0 +1,74 @@
+#include "ProgramTest.h"
+
+#include <vector>
+
+#include "Input.h"
+#include "Process.h"
+#include "Setup.h"
+#include "Wait.h"
+
+namespace velkarix::e2e {
+
+namespace {
+
+std::string RecorderLog() {
+    return SamplePath("SampleRecorder.log");
+}
+
+// The sample programs run as long as the tests do.
+class RunningSamples : public testing::Environment {
+  public:
+    void SetUp() override {
+        for (const char* name : {"SampleIdle.exe", "SampleSuspect.exe", "SampleSafe.exe"}) {
+            samples_.emplace_back(SamplePath(name));
+            ASSERT_TRUE(samples_.back()) << name << " doesn't start";
+        }
+    }
+    void TearDown() override {
+        samples_.clear();
+        RemoveDirectoryA(ScratchFolder().c_str());
+    }
+
+  private:
+    std::vector<Process> samples_;
+};
+
+const testing::Environment* const runningSamples =
+    testing::AddGlobalTestEnvironment(new RunningSamples);
+
+}  // namespace
+
+ProgramTest::ProgramTest() {
+    install_.Write("Settings.ini", "[Main]\r\nFirstRun=1\r\n[Update]\r\nCheckUpdate=0\r\n");
+    DeleteFileA(RecorderLog().c_str());
+}
+
+Program& ProgramTest::Start() {
+    program_.reset();
+    program_.emplace(install_);
+    EXPECT_TRUE(program_->Main()) << "the main window doesn't come";
+    return *program_;
+}
+
+int ProgramTest::RowOf(const std::string& name) {
+    const std::optional<int> row = List().Find(name);
+    EXPECT_TRUE(row) << name << " isn't listed";
+    return row.value_or(0);
+}
+
+void ProgramTest::SelectRow(const std::string& name) {
+    BringToFront(Running().Main());
+    const int row = RowOf(name);
+    List().Show(row);
+    ClickAt(Inside(List().LabelArea(row)));
+    EXPECT_TRUE(WaitUntil([&] { return List().Selected() == row; }))
+        << name << " can't be selected";
+}
+
+std::string ProgramTest::Opened() {
+    std::string text;
+    WaitUntil([&text] { return !(text = ReadWholeFile(RecorderLog())).empty(); });
+    return text;
+}
+
+}  // namespace velkarix::e2e

@@ -1,0 +1,40 @@
+// What every end-to-end test begins with: a fresh installation, and the sample programs running.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+#include "Install.h"
+#include "Program.h"
+
+namespace velkarix::e2e {
+
+class ProgramTest : public testing::Test {
+  protected:
+    // An installation that has been run before and doesn't look for updates.
+    ProgramTest();
+
+    // Starts the program and waits until its first page stands.
+    Program& Start();
+    // The program that Start started.
+    Program& Running() { return *program_; }
+    ListWindow List() { return Running().Processes(); }
+    // The place of a row by its name in column 0. A failure of the test, and 0, when it isn't
+    // there.
+    int RowOf(const std::string& name);
+    // Clicks on the row's text, and waits until it is selected.
+    void SelectRow(const std::string& name);
+
+    // What the stand-in for browser and viewers was asked to open since the test began, once it
+    // was; empty when it wasn't.
+    static std::string Opened();
+
+    Install install_;
+
+  private:
+    std::optional<Program> program_;
+};
+
+}  // namespace velkarix::e2e

@@ -1,0 +1,78 @@
+// However long the program runs, it holds no more of the system's objects.
+#include <algorithm>
+#include <iterator>
+
+#include "ObjectCounts.h"
+#include "ProgramTest.h"
+#include "Wait.h"
+
+namespace velkarix::e2e {
+namespace {
+
+class Resources : public ProgramTest {
+  protected:
+    // The least of a few counts: what is held only while something is drawn isn't a loss.
+    ObjectCounts Count() {
+        ObjectCounts least = CountObjects(Running());
+        for (int i = 0; i < 2; ++i) {
+            const ObjectCounts next = CountObjects(Running());
+            least.kernel = std::min(least.kernel, next.kernel);
+            least.gdi = std::min(least.gdi, next.gdi);
+            least.user = std::min(least.user, next.user);
+        }
+        EXPECT_GT(std::min({least.kernel, least.gdi, least.user}), 0u) << "no count to be had";
+        return least;
+    }
+    void ExpectNoMoreThan(const ObjectCounts& before) {
+        const ObjectCounts now = Count();
+        EXPECT_LE(now.kernel, before.kernel);
+        EXPECT_LE(now.gdi, before.gdi);
+        EXPECT_LE(now.user, before.user);
+    }
+    // Goes round the pages; ends on the first one.
+    void Switch(int times) {
+        static const char* const buttons[] = {"cmdIE",      "cmdStartup",   "cmdAddremove",
+                                              "cmdOptions", "cmdUtilities", "cmdProcess"};
+        for (int i = 0; i < times; ++i) {
+            ASSERT_TRUE(Running().Press(buttons[static_cast<std::size_t>(i) % std::size(buttons)]));
+        }
+    }
+};
+
+TEST_F(Resources, AThousandPageSwitchesLeaveTheCountsWhereTheyWere) {
+    Start();
+    Switch(102);
+    const ObjectCounts before = Count();
+    Switch(1002);
+    ExpectNoMoreThan(before);
+}
+
+TEST_F(Resources, AHundredDialogsLeaveTheCountsWhereTheyWere) {
+    Start();
+    const auto openAndClose = [this](int times) {
+        for (int i = 0; i < times; ++i) {
+            ASSERT_TRUE(Running().Control("lblAbout").Click());
+            const Window about = Running().Dialog("frmAbout");
+            ASSERT_TRUE(about.Find("cmdOk").Click());
+            ASSERT_TRUE(WaitUntil([&] { return !about && Running().Main().Enabled(); }));
+        }
+    };
+    openAndClose(10);
+    const ObjectCounts before = Count();
+    openAndClose(100);
+    ExpectNoMoreThan(before);
+}
+
+TEST_F(Resources, AHundredRefreshesLeaveTheCountsWhereTheyWere) {
+    Start();
+    const auto refresh = [this](int times) {
+        for (int i = 0; i < times; ++i) ASSERT_TRUE(Running().Press("cmdRefresh"));
+    };
+    refresh(10);
+    const ObjectCounts before = Count();
+    refresh(100);
+    ExpectNoMoreThan(before);
+}
+
+}  // namespace
+}  // namespace velkarix::e2e

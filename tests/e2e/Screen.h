@@ -1,0 +1,21 @@
+// What is on the screen: pictures for people, and counts of coloured pixels for tests.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+
+namespace velkarix::e2e {
+
+// Has a picture of the whole screen saved as `name`.png in the folder that VELKARIX_OUT names.
+// False when there is none, or nobody takes pictures.
+bool SaveScreenshot(const std::string& name);
+
+// How many pixels of an area of the screen satisfy `counts`.
+int CountPixels(const RECT& area, const std::function<bool(COLORREF)>& counts);
+
+// Whether a colour, also one softened at the edge of a letter, is mostly red.
+bool IsReddish(COLORREF color);
+
+}  // namespace velkarix::e2e

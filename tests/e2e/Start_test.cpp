@@ -1,0 +1,70 @@
+// The program starts, once, and ends.
+#include <algorithm>
+
+#include "ProgramTest.h"
+#include "Wait.h"
+
+namespace velkarix::e2e {
+namespace {
+
+class Start : public ProgramTest {
+  protected:
+    static std::ptrdiff_t MainWindows() {
+        return std::ranges::count(AllTopWindows(), "frmMain", &Window::Name);
+    }
+    // Starts the program a second time and waits until that instance has ended.
+    std::optional<DWORD> StartAgain() {
+        return Process(install_.Path("Velkarix.exe"), install_.Folder()).WaitForExit();
+    }
+};
+
+TEST_F(Start, TheCaptionShowsTitleAndVersion) {
+    EXPECT_EQ(ProgramTest::Start().Main().Text(), "Velkarix Version: 1.0");
+}
+
+TEST_F(Start, ClosingTheMainWindowEndsTheProgramWithCode0) {
+    EXPECT_EQ(ProgramTest::Start().Close(), 0u);
+}
+
+TEST_F(Start, TheHiddenApplicationWindowStandsRightBehindTheMainWindow) {
+    const Window main = ProgramTest::Start().Main();
+    const HWND hidden = FindWindowA("VelkarixApplication", "Velkarix");
+    ASSERT_NE(hidden, nullptr);
+    EXPECT_FALSE(IsWindowVisible(hidden));
+    EXPECT_EQ(GetWindow(hidden, GW_HWNDPREV), main.Handle());
+}
+
+TEST_F(Start, ASecondInstanceRaisesTheFirstAndEnds) {
+    const Window main = ProgramTest::Start().Main();
+    const Window desktop(GetDesktopWindow());
+    SetForegroundWindow(desktop.Handle());
+    EXPECT_EQ(StartAgain(), 0u);
+    EXPECT_TRUE(WaitUntil([&] { return GetForegroundWindow() == main.Handle(); }));
+    EXPECT_EQ(MainWindows(), 1);
+    EXPECT_TRUE(Running().OwnProcess().Running());
+}
+
+TEST_F(Start, ASecondInstanceRestoresAMinimisedFirst) {
+    const Window main = ProgramTest::Start().Main();
+    main.Post(WM_SYSCOMMAND, SC_MINIMIZE);
+    ASSERT_TRUE(WaitUntil([&] { return IsIconic(main.Handle()) != FALSE; }));
+    EXPECT_EQ(StartAgain(), 0u);
+    EXPECT_TRUE(WaitUntil([&] { return IsIconic(main.Handle()) == FALSE; }));
+    EXPECT_TRUE(WaitUntil([&] { return GetForegroundWindow() == main.Handle(); }));
+    EXPECT_EQ(MainWindows(), 1);
+}
+
+TEST_F(Start, TheProgramCanBeStartedAgainOnceItHasEnded) {
+    EXPECT_EQ(ProgramTest::Start().Close(), 0u);
+    EXPECT_EQ(ProgramTest::Start().Main().Text(), "Velkarix Version: 1.0");
+}
+
+TEST_F(Start, TheFirstPageIsTheProcessesWithTheFirstRowSelected) {
+    ProgramTest::Start();
+    EXPECT_TRUE(Running().Control("frmProcess").Visible());
+    EXPECT_GT(List().RowCount(), 0);
+    EXPECT_EQ(List().Selected(), 0);
+}
+
+}  // namespace
+}  // namespace velkarix::e2e

@@ -1,0 +1,20 @@
+// What the driver and its hook library agree on: questions that only code inside the program under
+// test can answer, and the memory for the answer.
+#pragma once
+
+namespace velkarix::e2e {
+
+// Registered messages, sent to a window of the program.
+inline constexpr const char* ReadMenuQuestion = "Velkarix.Test.ReadMenu";
+inline constexpr const char* CountUserObjectsQuestion = "Velkarix.Test.CountUserObjects";
+inline constexpr const char* CutTextsQuestion = "Velkarix.Test.CutTexts";
+
+inline constexpr const char* AnswerMemoryName = "Velkarix.Test.Answer";
+inline constexpr int AnswerMemorySize = 16384;
+inline constexpr const char* PopupMenuClass = "#32768";
+
+}  // namespace velkarix::e2e
+
+// An item of a menu: number, type, state, left, top, right, bottom; the caption follows, then a
+// line feed.
+#define MenuLineFormat "%u %u %u %ld %ld %ld %ld "
