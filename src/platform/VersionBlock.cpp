@@ -11,6 +11,9 @@ namespace {
 // Real resources have four levels: root, StringFileInfo, table, string.
 constexpr int kDeepestLevel = 8;
 
+constexpr std::size_t kText = 1;
+constexpr std::string_view kRootName = "VS_VERSION_INFO";
+
 // The two forms of a node: the length of the whole node, the length of its value, in the 32-bit
 // form a type (1 is text), then its name.
 struct Form {
@@ -23,9 +26,9 @@ constexpr Form kNarrow{4, 1};
 struct Node {
     std::size_t end = 0;  // behind the node and all below it, never outside of its parent
     std::string name;
-    bool isWideText = false;
+    std::size_t type = 0;       // of the 32-bit form
     std::size_t value = 0;      // where the value starts
-    std::size_t valueSize = 0;  // in bytes, never past the block's end
+    std::size_t valueSize = 0;  // in bytes, never past the resource's end
     std::size_t children = 0;   // where the first node below may start
     bool isSound = true;        // false when a length had to be cut
 };
@@ -38,7 +41,9 @@ class Reader {
   public:
     explicit Reader(const Bytes& block)
         // Where a 16-bit block has the first letter of its name, a 32-bit one has the type.
-        : block_(block), form_(block.size() > 4 && block[4] >= ' ' ? kNarrow : kWide) {}
+        : block_(block),
+          form_(block.size() > 4 && block[4] >= ' ' ? kNarrow : kWide),
+          end_(block.size() < 2 ? 0 : std::min(Word(0), block.size())) {}
 
     std::optional<Node> Root() const { return NodeAt(0, block_.size()); }
 
@@ -57,7 +62,7 @@ class Reader {
         Node node;
         node.end = std::min(offset + length, limit);
         node.isSound = offset + length <= limit;
-        node.isWideText = form_.characterSize == 2 && Word(offset + 4) == 1;
+        if (form_.characterSize == 2) node.type = Word(offset + 4);
 
         std::size_t position = offset + form_.headerSize;
         for (;; position += form_.characterSize) {
@@ -84,21 +89,22 @@ class Reader {
     // as long as the block and no longer.
     bool IsSound(const Node& node, int level) const {
         if (!node.isSound || level > kDeepestLevel) return false;
-        for (std::size_t offset = node.children; HasRoom(offset, node.end);) {
+        std::size_t offset = node.children;
+        while (HasRoom(offset, node.end)) {
             const auto child = NodeAt(offset, node.end);
             if (!child || !IsSound(*child, level + 1)) return false;
             offset = Aligned(child->end);
         }
-        return true;
+        return IsPadding(offset, node.end);
     }
 
     Bytes ValueOf(const Node& node) const {
         Bytes value;
-        const std::size_t step = node.isWideText ? 2 : 1;
+        const std::size_t step = node.type == kText ? 2 : 1;
         for (std::size_t i = 0; i + step <= node.valueSize; i += step) {
             const std::size_t position = node.value + i;
-            value.push_back(node.isWideText ? static_cast<std::uint8_t>(AnsiCharacter(position))
-                                            : block_[position]);
+            value.push_back(node.type == kText ? static_cast<std::uint8_t>(AnsiCharacter(position))
+                                               : block_[position]);
         }
         return value;
     }
@@ -117,12 +123,21 @@ class Reader {
         return character > 0xFF ? '?' : static_cast<char>(character);
     }
 
+    // Whether what remains of a node is nothing, or a length of 0 for who reads on regardless.
+    bool IsPadding(std::size_t offset, std::size_t limit) const {
+        if (offset >= limit) return true;
+        return limit - offset >= 2 &&
+               std::all_of(block_.begin() + static_cast<std::ptrdiff_t>(offset),
+                           block_.begin() + static_cast<std::ptrdiff_t>(limit),
+                           [](std::uint8_t byte) { return byte == 0; });
+    }
+
     // The count of a text's value is one of characters. Some resource compilers give bytes, so a
-    // value may reach past its node and yet be inside the block.
+    // value may reach past its node and yet be inside the resource.
     void SetValue(Node& node, std::size_t start, std::size_t count) const {
-        const std::size_t claimed = node.isWideText ? 2 * count : count;
-        node.value = std::min(start, block_.size());
-        node.valueSize = std::min(claimed, block_.size() - node.value);
+        const std::size_t claimed = node.type == kText ? 2 * count : count;
+        node.value = std::min(start, end_);
+        node.valueSize = std::min(claimed, end_ - node.value);
         node.isSound = node.isSound && node.valueSize == claimed;
         node.children = Aligned(node.value + node.valueSize);
     }
@@ -136,6 +151,7 @@ class Reader {
 
     const Bytes& block_;
     Form form_;
+    std::size_t end_;  // of the resource; the block may have spare bytes behind
 };
 
 }  // namespace
@@ -143,7 +159,8 @@ class Reader {
 bool IsVersionBlockSound(const Bytes& block) {
     const Reader reader(block);
     const auto root = reader.Root();
-    return root && reader.IsSound(*root, 1);
+    // A root that is odd itself could be read in the other form by somebody else.
+    return root && root->name == kRootName && root->type <= kText && reader.IsSound(*root, 1);
 }
 
 std::optional<Bytes> QueryVersionBlock(const Bytes& block, const std::string& subBlock) {

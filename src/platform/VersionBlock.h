@@ -14,7 +14,7 @@ namespace velkarix {
 bool IsVersionBlockSound(const Bytes& block);
 
 // The data at `subBlock` ("\\" is the root, "\\VarFileInfo\\Translation", ...; names compare
-// without case), as many bytes as the resource says that there are, cut where the block ends.
+// without case), as many bytes as the resource says that there are, cut where it ends.
 // Texts come back as ANSI bytes, one each character, their NUL counted; '?' stands for a character
 // beyond Latin-1. Nothing when there is no such part.
 std::optional<Bytes> QueryVersionBlock(const Bytes& block, const std::string& subBlock);

@@ -148,6 +148,21 @@ TEST_P(BothForms, AnyPieceOfABlockIsReadWithoutLeavingIt) {
     }
 }
 
+TEST_P(BothForms, ABlockWithAnyByteChangedIsReadWithoutLeavingIt) {
+    const auto block = Sample(*GetParam());
+    for (std::size_t changed = 0; changed < block.size(); ++changed) {
+        for (const int byte : {0x00, 0x01, 0x7F, 0xFF}) {
+            auto broken = block;
+            broken[changed] = static_cast<std::uint8_t>(byte);
+            IsVersionBlockSound(broken);
+            for (const auto& part : {kCompany, kVersion, kTranslation}) {
+                const auto found = QueryVersionBlock(broken, part).value_or(Bytes{});
+                EXPECT_LE(found.size(), block.size()) << changed;
+            }
+        }
+    }
+}
+
 TEST(VersionBlock, KeepsLatinCharactersAndMarksOthers) {
     const auto block = kWide.Program({kWide.String(u"CompanyName", u"Caf\u00E9 \u0416\u2019")});
     EXPECT_EQ(QueryVersionBlock(block, kCompany), Text("Caf\xE9 ??"));
@@ -182,6 +197,39 @@ TEST(VersionBlock, AValueLongerThanTheBlockIsCutThere) {
     EXPECT_EQ(QueryVersionBlock(block, kTranslation), (Bytes{0x09, 0x04, 0xB0, 0x04}));
 }
 
+TEST(VersionBlock, ABlockThatCouldBeTakenForTheOtherFormIsNotSound) {
+    auto oddType = Sample(kWide);
+    oddType[5] = 'V';
+    EXPECT_FALSE(IsVersionBlockSound(oddType));
+    EXPECT_EQ(QueryVersionBlock(oddType, kVersion), Text("1.2"));
+
+    auto oddName = Sample(kNarrow);
+    oddName[4] = ' ';
+    EXPECT_FALSE(IsVersionBlockSound(oddName));
+    EXPECT_EQ(QueryVersionBlock(oddName, kVersion), Text("1.2"));
+}
+
+TEST(VersionBlock, WhatRemainsBehindTheLastNodeMustBeZeros) {
+    // Compilers that don't count a text's NUL leave it behind the value.
+    auto block = kWide.Program({kWide.Node(u"CompanyName", 2, 1, {'A', 0, 'b', 0, 0, 0})});
+    EXPECT_TRUE(IsVersionBlockSound(block));
+    EXPECT_EQ(QueryVersionBlock(block, kCompany), (Bytes{'A', 'b'}));
+
+    block[Find(block, u"Ab") + 4] = 0x40;
+    EXPECT_FALSE(IsVersionBlockSound(block));
+    EXPECT_EQ(QueryVersionBlock(block, kCompany), (Bytes{'A', 'b'}));
+}
+
+TEST(VersionBlock, ATextDoesNotReachIntoTheSpareBytesBehindTheResource) {
+    auto block = Sample(kWide);
+    block[NodeStart(block, u"FileVersion") + 2] = 200;
+    const std::size_t start = Find(block, u"1.2");
+    const std::size_t length = block.size() - start;
+    block.resize(2 * block.size());
+    EXPECT_FALSE(IsVersionBlockSound(block));
+    EXPECT_EQ(QueryVersionBlock(block, kVersion)->size(), length / 2);
+}
+
 TEST(VersionBlock, ANodeLongerThanItsParentIsNotSoundButItsTextIsFound) {
     auto block = Sample(kWide);
     block[NodeStart(block, u"FileVersion") + 1] = 0x7F;
@@ -209,6 +257,7 @@ TEST(VersionBlock, ANameWithoutEndIsNoNode) {
 TEST(VersionBlock, NodesNestedWithoutMeasureAreNotSound) {
     Bytes block;
     for (int level = 0; level < 100; ++level) block = kWide.Node(u"n", 0, 0, {}, {block});
+    block = kWide.Node(u"VS_VERSION_INFO", 0, 0, {}, {block});
     EXPECT_FALSE(IsVersionBlockSound(block));
     EXPECT_TRUE(QueryVersionBlock(block, "\\n\\n\\n"));
 }
