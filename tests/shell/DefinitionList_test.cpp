@@ -242,26 +242,73 @@ TEST_F(DefinitionListTest, NulsAreBytesLikeOthers) {
     EXPECT_FALSE(ListContains(list, entry.substr(0, 15) + " " + entry.substr(16)));
 }
 
-TEST_F(DefinitionListTest, ALargeListIsFoundInFromItsFirstToItsLastEntry) {
-    constexpr std::size_t Entries = 600'000;
-    std::mt19937_64 random(20040601);
-    std::string content;
-    content.reserve(Entries * 34);
-    for (std::size_t i = 0; i < Entries; ++i) {
-        for (int half = 0; half < 2; ++half) {
-            for (std::uint64_t bits = random() | 1, digit = 0; digit < 16; ++digit, bits >>= 4) {
-                content += "0123456789abcdef"[bits & 0xF];
-            }
+TEST_F(DefinitionListTest, AgreesWithAPlainSearchInItsText) {
+    std::mt19937 random(20040601);
+    const auto below = [&random](std::size_t end) { return random() % end; };
+    int found = 0;
+    constexpr int Rounds = 1500;
+    for (int round = 0; round < Rounds; ++round) {
+        std::string content(below(600), ' ');
+        for (char& c : content) c = "aab\\ \r\n"[below(7)];
+        DefinitionList drawn;
+        Load(drawn, content);
+        const std::string text(drawn.Text());
+        for (int i = 0; i < 10; ++i) {
+            // A part of the text, sometimes with one byte changed or one more.
+            std::string item = text.substr(below(text.size() + 1), below(70));
+            if (below(3) == 0 && !item.empty()) item[below(item.size())] = 'a';
+            if (below(9) == 0) item += text;
+            const bool expected = !item.empty() && text.find(item) != std::string::npos;
+            ASSERT_EQ(ListContains(drawn, item), expected) << text << "|" << item;
+            found += expected;
         }
-        content += "\r\n";
     }
-    Load(list, content);
+    EXPECT_GT(found, 5 * Rounds);
+    EXPECT_LT(found, 9 * Rounds);
+}
+
+// A list of many digests that is made while it is read.
+struct GeneratedList : MemoryFileSystem {
+    using MemoryFileSystem::MemoryFileSystem;
+    static constexpr std::size_t kEntries = 3'000'000;
+    static constexpr std::size_t kLineSize = 34;
+
+    std::optional<std::uint64_t> GetFileSize(FileHandle) override { return kEntries * kLineSize; }
+    ErrorCode ReadFile(FileHandle, std::span<std::uint8_t> buffer, std::uint32_t& read) override {
+        read = 0;
+        for (; read < buffer.size() && position < kEntries * kLineSize; ++read, ++position) {
+            const std::size_t column = position % kLineSize;
+            if (column == 0) line = Entry(position / kLineSize) + "\r\n";
+            buffer[read] = static_cast<std::uint8_t>(line[column]);
+        }
+        return error::Success;
+    }
+    static std::string Entry(std::size_t number) {
+        std::string entry(32, '0');
+        std::uint64_t bits = number;
+        for (std::size_t i = 0; i < entry.size(); ++i) {
+            if (i % 16 == 0) bits = (bits + i + 1) * 0x9E3779B97F4A7C15u;
+            entry[i] = "0123456789abcdef"[bits >> (60 - 4 * (i % 16)) & 0xF];
+        }
+        return entry;
+    }
+
+    std::size_t position = 0;
+    std::string line;
+};
+
+TEST_F(DefinitionListTest, AListOf100MegabytesIsFoundInFromItsFirstToItsLastEntry) {
+    constexpr std::size_t Entries = GeneratedList::kEntries;
+    const auto entry = GeneratedList::Entry;
+    GeneratedList files(machine.Journal(), machine.disk);
+    machine.AddFile(kPath);
+    LoadDefinitionList(files, list, kPath);
     EXPECT_EQ(list.Text().size(), Entries * 33);
-    const auto entry = [&](std::size_t i) { return content.substr(i * 34, 32); };
     for (std::size_t i = 0; i < Entries; i += 997) {
-        EXPECT_TRUE(ListContains(list, entry(i)));
-        EXPECT_TRUE(ListContains(list, entry(i) + " " + entry(i + 1)));
-        EXPECT_FALSE(ListContains(list, entry(i) + " " + entry(i)));
+        ASSERT_TRUE(ListContains(list, entry(i))) << i;
+        ASSERT_TRUE(ListContains(list, entry(i) + " " + entry(i + 1))) << i;
+        ASSERT_FALSE(ListContains(list, entry(i) + " " + entry(i))) << i;
+        ASSERT_FALSE(ListContains(list, entry(Entries + i))) << i;
     }
     EXPECT_TRUE(ListContains(list, entry(Entries - 1)));
 }
