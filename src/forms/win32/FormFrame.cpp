@@ -65,6 +65,13 @@ FormFrame FrameOf(const Form& form, HWND parent, DesktopContext& context) {
     return frame;
 }
 
+void FitDialog(HWND window, const Form& form, DesktopContext& context) {
+    const RECT outside = DialogFrame(form, context).outside;
+    const LONG width = std::min(Width(outside), Width(WorkArea()));
+    SetWindowPos(window, nullptr, 0, 0, width, Height(outside),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void CentreOver(HWND window, HWND other) {
     RECT area{};
     GetWindowRect(window, &area);
