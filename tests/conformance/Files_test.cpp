@@ -138,6 +138,11 @@ TEST_P(FileConformance, AFolderIsNotOpenedAsAFile) {
     EXPECT_EQ(Open(folder_, FileUse::Replace), error::AccessDenied);
 }
 
+TEST_P(FileConformance, ADeviceIsNotOpenedAsAFile) {
+    // Reading from a device may never end.
+    EXPECT_EQ(Open(In("NUL"), FileUse::Read), error::FileNotFound);
+}
+
 TEST_P(FileConformance, AFailedOpeningLeavesTheHandleAlone) {
     FileHandle file = 77;
     EXPECT_NE(files_.CreateFileA(In("missing.txt"), FileUse::Read, file), error::Success);
