@@ -115,6 +115,13 @@ TEST_P(SearchConformance, ASearchDoesNotGoWhereThereIsNoFolder) {
     EXPECT_EQ(files_.FindFirstFileA("", found), 0u);
 }
 
+TEST_P(SearchConformance, TheRootOfADriveHasNoDots) {
+    for (const std::string& name : Names(folder_.substr(0, 3) + "*")) {
+        EXPECT_NE(name, ".");
+        EXPECT_NE(name, "..");
+    }
+}
+
 TEST_P(SearchConformance, TheRootOfADriveIsNoEntry) {
     FoundFile found;
     EXPECT_EQ(files_.FindFirstFileA(folder_.substr(0, 3), found), 0u);

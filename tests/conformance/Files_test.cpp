@@ -133,6 +133,13 @@ TEST_P(FileConformance, AFileIsNoFolder) {
     EXPECT_EQ(files_.PathFileExistsA(In("file.txt\\below")), false);
 }
 
+TEST_P(FileConformance, SomeCharactersAreInNoName) {
+    for (const char* name : {"a?b", "a*b", "a<b", "a>b", "a|b", "a\"b"}) {
+        EXPECT_NE(Open(In(name), FileUse::Replace), error::Success) << name;
+        EXPECT_NE(files_.CreateDirectoryA(In(name)), error::Success) << name;
+    }
+}
+
 TEST_P(FileConformance, AFolderIsNotOpenedAsAFile) {
     EXPECT_EQ(Open(folder_, FileUse::Read), error::AccessDenied);
     EXPECT_EQ(Open(folder_, FileUse::Replace), error::AccessDenied);

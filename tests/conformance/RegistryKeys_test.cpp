@@ -43,6 +43,11 @@ TEST_P(RegistryConformance, AccentedLettersOfKeysCompareWithoutCase) {
     Create("Caf\xE9");
     EXPECT_EQ(Open("CAF\xC9"), error::Success);
     EXPECT_EQ(SubKeys(scratch_), (std::vector<std::string>{"Caf\xE9"}));
+    // Letters whose capital isn't 32 places before them in the code page, and signs among letters.
+    Create("\x9A\x9C\x9E\xFF");
+    EXPECT_EQ(Open("\x8A\x8C\x8E\x9F"), error::Success);
+    Create("\xF7");
+    EXPECT_EQ(Open("\xD7"), error::FileNotFound);
 }
 
 TEST_P(RegistryConformance, ABackslashAtTheEndOfAPathDoesNotCount) {

@@ -39,7 +39,7 @@ SearchHandle MemoryFileSystem::FindFirstFileA(const std::string& pattern, FoundF
     const std::size_t lastLevel = pattern.find_last_of("\\/") + 1;
     const std::string folderPath = lastLevel == 0 ? "." : pattern.substr(0, lastLevel);
     const auto folder = disk_.Find(folderPath);
-    if (!folder || lastLevel == pattern.size()) {
+    if (!folder) {
         return 0;
     }
     const bool isRoot = folder->name.ends_with(':');
