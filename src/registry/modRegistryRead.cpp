@@ -119,9 +119,8 @@ bool modRegistry::GetBinaryValue(Hive hive, const std::string& key, const std::s
     std::uint32_t size = 1;
     bytes.assign(1, 0);
     registry_.RegQueryValueExA(open.Handle(), valueName, type, &bytes, size);
-    if (size == 0 || !MakeRoom(bytes, size) ||
-        registry_.RegQueryValueExA(open.Handle(), valueName, type, &bytes, size) !=
-            error::Success) {
+    if (!MakeRoom(bytes, size) || registry_.RegQueryValueExA(open.Handle(), valueName, type, &bytes,
+                                                             size) != error::Success) {
         return false;
     }
     bytes.resize(std::min<std::size_t>(size, bytes.size()));

@@ -11,15 +11,13 @@ namespace {
 
 // What is read is folded and indexed while it is still in the processor's cache.
 constexpr std::size_t kBlockSize = 256 * 1024;
-// Memory for a file of up to this length is taken at once; for more only as it is read.
-constexpr std::uint64_t kTrustedLength = 128 * 1024 * 1024;
 
 }  // namespace
 
 bool DefinitionList::ReadAll(FileSystem& files, FileHandle file, std::uint64_t length) {
-    const auto expected = static_cast<std::size_t>(std::min(length, kTrustedLength));
-    folded_.Reserve(expected);
-    index_.Reserve(folded_.Text().size() + expected);
+    // Memory that can't be had at once may turn out not to be needed.
+    const auto expected = static_cast<std::size_t>(std::min<std::uint64_t>(length, SIZE_MAX));
+    if (folded_.Reserve(expected)) index_.Reserve(folded_.Text().size() + expected);
     for (;;) {
         const std::span<std::uint8_t> room = folded_.Room(kBlockSize);
         std::uint32_t read = 0;

@@ -42,17 +42,13 @@ class NumberReader {
 
     std::string_view Rest() const { return rest_; }
 
-    // Nothing, with the text as it was, when there is no number.
+    // Nothing when there is no number.
     std::optional<double> Read() {
-        const std::string_view start = rest_;
         const bool isNegative = Take('-');
         if (!isNegative) Take('+');
         bool hasDigits = ReadDigits(0);
         if (Take('.')) hasDigits = ReadDigits(-1) || hasDigits;
-        if (!hasDigits) {
-            rest_ = start;
-            return std::nullopt;
-        }
+        if (!hasDigits) return std::nullopt;
         ReadExponent();
         const double value = mantissa_ == 0 ? 0 : Scaled(static_cast<double>(mantissa_), exponent_);
         return isNegative ? -value : value;

@@ -66,8 +66,8 @@ TEST_F(CopyKeyTreeTest, IsNoSuccessWhenAnyOfItsCallsFails) {
 }
 
 TEST_F(CopyKeyTreeTest, IsNoSuccessWhenSomethingBelowMayNotBeRead) {
-    machine.AddKey(kUser, "Source\\Sub");
-    machine.registry.Restrict(kUser, "Source\\Sub", KeyAccess::Write);
+    for (const std::string sub : {"A", "B", "C"}) machine.AddKey(kUser, "Source\\" + sub);
+    machine.registry.Restrict(kUser, "Source\\B", KeyAccess::Write);
     EXPECT_EQ(Copy("Source", "Target"), error::AccessDenied);
 }
 
