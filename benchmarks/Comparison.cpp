@@ -26,7 +26,7 @@ std::optional<double> Find(const std::vector<std::pair<std::string, double>>& me
 
 }  // namespace
 
-void AddBenchmark(const std::string& name, std::size_t bytes, std::function<double()> run) {
+void AddBenchmark(const std::string& name, std::size_t bytes, const std::function<double()>& run) {
     benchmark::RegisterBenchmark(name.c_str(),
                                  [bytes, run](benchmark::State& state) {
                                      for (auto _ : state) state.SetIterationTime(run());

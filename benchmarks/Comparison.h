@@ -19,7 +19,7 @@ struct Comparison {
 
 // Registers a benchmark. `run` does the work once and gives the seconds that it took, so that
 // what comes before and after isn't counted. `bytes` is how much data it goes through, 0 for none.
-void AddBenchmark(const std::string& name, std::size_t bytes, std::function<double()> run);
+void AddBenchmark(const std::string& name, std::size_t bytes, const std::function<double()>& run);
 void AddComparison(Comparison comparison);
 
 // The seconds that `work` takes.

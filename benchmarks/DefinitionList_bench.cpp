@@ -16,7 +16,7 @@ constexpr std::size_t kEntries = 1'000'000;
 constexpr std::size_t kQuestions = 1000;
 constexpr std::size_t kPlainQuestions = 10;  // of which each takes as long as a thousand others
 constexpr int kPasses = 3;
-constexpr std::size_t kBlockSize = 256 * 1024;  // as LoadDefinitionList reads
+constexpr std::size_t kBlockSize = std::size_t{256} * 1024;  // as LoadDefinitionList reads
 
 // The list once more for each question of speed, so that no run profits from the one before.
 struct Lists {

@@ -10,7 +10,7 @@
 namespace velkarix {
 namespace {
 
-constexpr std::size_t kFileSize = 256 * 1024 * 1024;
+constexpr std::size_t kFileSize = std::size_t{256} * 1024 * 1024;
 // The program is to reach nine tenths of the rate of the command.
 constexpr double kLargestRatio = 1 / 0.9;
 

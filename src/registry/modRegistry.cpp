@@ -114,9 +114,10 @@ bool modRegistry::DeleteBelow(Hive hive, const std::string& key, int level, bool
         }
         names.push_back(TrimAtNull(name));
     }
+    const std::string prefix = key + "\\";
     for (const std::string& name : names) {
         bool subKeyOpened = false;
-        if (!DeleteBelow(hive, key + "\\" + name, level + 1, subKeyOpened)) return false;
+        if (!DeleteBelow(hive, prefix + name, level + 1, subKeyOpened)) return false;
         registry_.RegDeleteKeyA(open.Handle(), name);
     }
     return true;

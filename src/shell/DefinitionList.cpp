@@ -10,7 +10,7 @@ namespace velkarix {
 namespace {
 
 // What is read is folded and indexed while it is still in the processor's cache.
-constexpr std::size_t kBlockSize = 256 * 1024;
+constexpr std::size_t kBlockSize = std::size_t{256} * 1024;
 
 }  // namespace
 

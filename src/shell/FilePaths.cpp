@@ -47,7 +47,7 @@ std::string FindOnPath(const Machine& machine, const std::string& fileName) {
     std::size_t start = 0;
     for (std::size_t end = 0; (end = folders.find(';', start)) != std::string::npos;
          start = end + 1) {
-        const std::string candidate = folders.substr(start, end - start) + "\\" + fileName;
+        std::string candidate = folders.substr(start, end - start) + "\\" + fileName;
         if (PathExists(machine.files, candidate)) return candidate;
     }
     return {};

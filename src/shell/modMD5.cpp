@@ -12,7 +12,7 @@ namespace velkarix {
 namespace {
 
 // Small enough to stay in the processor's cache from reading to hashing.
-constexpr std::size_t kBlockSize = 256 * 1024;
+constexpr std::size_t kBlockSize = std::size_t{256} * 1024;
 constexpr std::size_t kDigestSize = 16;
 
 bool HashFile(FileSystem& files, FileHandle file, Hash& hash) {
