@@ -1,6 +1,7 @@
 // The program starts, once, and ends.
 #include <algorithm>
 
+#include "Input.h"
 #include "ProgramTest.h"
 #include "Wait.h"
 
@@ -32,6 +33,21 @@ TEST_F(Start, TheHiddenApplicationWindowStandsRightBehindTheMainWindow) {
     ASSERT_NE(hidden, nullptr);
     EXPECT_FALSE(IsWindowVisible(hidden));
     EXPECT_EQ(GetWindow(hidden, GW_HWNDPREV), main.Handle());
+}
+
+TEST_F(Start, TheHiddenWindowFollowsTheMainWindowToTheFront) {
+    const Window main = ProgramTest::Start().Main();
+    const HWND hidden = FindWindowA("VelkarixApplication", "Velkarix");
+    const HWND between =
+        CreateWindowExA(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, "STATIC", "between", WS_POPUP, 0, 0,
+                        10, 10, nullptr, nullptr, nullptr, nullptr);
+    SetWindowPos(between, main.Handle(), 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    EXPECT_EQ(GetWindow(hidden, GW_HWNDPREV), between);
+    SetForegroundWindow(GetDesktopWindow());
+    ASSERT_TRUE(BringToFront(main));
+    EXPECT_TRUE(WaitUntil([&] { return GetWindow(hidden, GW_HWNDPREV) == main.Handle(); }));
+    DestroyWindow(between);
 }
 
 TEST_F(Start, ASecondInstanceRaisesTheFirstAndEnds) {

@@ -63,7 +63,7 @@ bool IsIcon(HICON icon) {
 // lowest free one to a new object: so trying the low ones finds all.
 std::string CountUserObjects() {
     constexpr std::uintptr_t First = 0x20;
-    constexpr std::uintptr_t Last = 0x4000;
+    constexpr std::uintptr_t Last = 0x1000;
     int count = 0;
     for (std::uintptr_t handle = First; handle < Last; handle += 2) {
         const bool used = IsOwnWindow(reinterpret_cast<HWND>(handle)) ||
