@@ -18,10 +18,18 @@ INPUT KeyInput(WORD key, DWORD flags) {
     return input;
 }
 
-INPUT MouseInput(DWORD flags) {
+// A coordinate on a screen of `size` pixels in the parts that mouse input is measured in.
+LONG Normalised(LONG coordinate, int size) {
+    return (coordinate * 65536 + size - 1) / size;
+}
+
+// With its place: a movement of its own could be overtaken by the echo of an earlier one.
+INPUT MouseInput(POINT place, DWORD flags) {
     INPUT input{};
     input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flags;
+    input.mi.dx = Normalised(place.x, GetSystemMetrics(SM_CXSCREEN));
+    input.mi.dy = Normalised(place.y, GetSystemMetrics(SM_CYSCREEN));
+    input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | flags;
     return input;
 }
 
@@ -42,9 +50,9 @@ void PressKey(WORD key, std::initializer_list<WORD> held) {
 
 void ClickAt(POINT place, Mouse button) {
     const bool left = button == Mouse::Left;
-    SetCursorPos(place.x, place.y);
-    std::vector<INPUT> inputs = {MouseInput(left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN),
-                                 MouseInput(left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP)};
+    std::vector<INPUT> inputs = {
+        MouseInput(place, left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN),
+        MouseInput(place, left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP)};
     Put(inputs);
 }
 

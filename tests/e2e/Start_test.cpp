@@ -45,6 +45,7 @@ TEST_F(Start, TheHiddenWindowFollowsTheMainWindowToTheFront) {
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
     EXPECT_EQ(GetWindow(hidden, GW_HWNDPREV), between);
     SetForegroundWindow(GetDesktopWindow());
+    ASSERT_TRUE(WaitUntil([&] { return !FocusOf(main.Thread()); }));
     ASSERT_TRUE(BringToFront(main));
     EXPECT_TRUE(WaitUntil([&] { return GetWindow(hidden, GW_HWNDPREV) == main.Handle(); }));
     DestroyWindow(between);
