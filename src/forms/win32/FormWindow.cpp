@@ -35,7 +35,7 @@ FormWindow::FormWindow(DesktopContext& context, Form& form, HWND parent)
 }
 
 FormWindow::~FormWindow() {
-    if (!detached_) Detach();
+    Detach();
     if (handle_ != nullptr) DestroyWindow(handle_);
 }
 
@@ -47,6 +47,7 @@ void FormWindow::SetIcons() {
 }
 
 void FormWindow::Detach() {
+    if (detached_) return;
     detached_ = true;
     form_.AttachView(nullptr);
     timers_->Detach();

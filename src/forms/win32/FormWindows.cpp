@@ -28,6 +28,10 @@ FormWindow& FormWindows::Add(Form& form, HWND parent) {
 }
 
 void FormWindows::Remove(FormWindow& window) {
+    // The system takes the pages in it along.
+    for (const auto& each : windows_) {
+        if (IsChild(window.Handle(), each->Handle()) != FALSE) each->Detach();
+    }
     window.Detach();
     const auto found = std::find_if(windows_.begin(), windows_.end(),
                                     [&](const auto& each) { return each.get() == &window; });
@@ -48,6 +52,7 @@ FormWindow* FormWindows::Of(const Form& form) const {
 }
 
 FormWindow* FormWindows::WithHandle(HWND handle) const {
+    if (handle == nullptr) return nullptr;
     return FirstOf(windows_, [&](const auto& each) { return each->Handle() == handle; });
 }
 

@@ -58,7 +58,6 @@ void ListViewWindow::Changed(Aspect aspect) {
 }
 
 void ListViewWindow::Refresh() {
-    refreshing_ = true;
     const ImageList* images = list_.Images();
     if (images != nullptr) images_.Follow(*images);
     Send(LVM_SETIMAGELIST, LVSIL_SMALL,
@@ -67,7 +66,7 @@ void ListViewWindow::Refresh() {
     if (fitWanted_) FitColumns(Handle(), list_, Context());
     if (rowsChanged_ || selectionChanged_) ShowSelection();
     InvalidateRect(Handle(), nullptr, FALSE);
-    rowsChanged_ = selectionChanged_ = fitWanted_ = refreshing_ = false;
+    rowsChanged_ = selectionChanged_ = fitWanted_ = false;
 }
 
 void ListViewWindow::ShowSelection() {
@@ -134,11 +133,10 @@ LRESULT ListViewWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return ControlWindow::OnMessage(message, wParam, lParam);
 }
 
+// What the program selected is the model's already, as is a row that the native list selects anew.
 void ListViewWindow::OnItemChanged(const NMLISTVIEW& change) {
-    const bool cameIn = (change.uNewState & ~change.uOldState & LVIS_SELECTED) != 0;
-    if (refreshing_ || !cameIn) return;
+    if ((change.uNewState & ~change.uOldState & LVIS_SELECTED) == 0) return;
     ListRow* row = RowAt(list_, change.iItem);
-    // The native list also selects anew what is selected.
     if (row != nullptr && row != list_.SelectedRow()) list_.UserSelect(row);
 }
 

@@ -39,7 +39,6 @@ class ListViewWindow : public ControlWindow, private Refreshable {
 
     ListView& list_;
     ListImages images_;
-    bool refreshing_ = false;  // the program changes the window, not the user
     bool rowsChanged_ = true;
     bool selectionChanged_ = true;
     bool fitWanted_ = false;
