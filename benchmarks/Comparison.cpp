@@ -10,7 +10,7 @@ namespace velkarix {
 namespace {
 
 // An odd number, so that one of the runs is the median.
-constexpr int kRepetitions = 11;
+constexpr int RepetitionCount = 11;
 
 std::vector<Comparison>& Comparisons() {
     static std::vector<Comparison> comparisons;
@@ -36,7 +36,7 @@ void AddBenchmark(const std::string& name, std::size_t bytes, const std::functio
         ->UseManualTime()
         ->Unit(benchmark::kMillisecond)
         ->Iterations(1)
-        ->Repetitions(kRepetitions);
+        ->Repetitions(RepetitionCount);
 }
 
 void AddComparison(Comparison comparison) {

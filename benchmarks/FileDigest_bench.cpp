@@ -10,9 +10,9 @@
 namespace velkarix {
 namespace {
 
-constexpr std::size_t kFileSize = std::size_t{256} * 1024 * 1024;
+constexpr std::size_t FileSize = std::size_t{256} * 1024 * 1024;
 // The program is to reach nine tenths of the rate of the command.
-constexpr double kLargestRatio = 1 / 0.9;
+constexpr double LargestRatio = 1 / 0.9;
 
 double Digest(const std::string& path) {
     MemoryMachine rest;
@@ -39,11 +39,11 @@ double DigestByCommand(const std::string& path) {
 }  // namespace
 
 void AddFileDigestBenchmarks(const BenchFiles& files) {
-    AddBenchmark("GetFileMD5_256MB", kFileSize,
-                 [&files] { return Digest(files.RandomFile(kFileSize)); });
-    AddBenchmark("openssl_md5_256MB", kFileSize,
-                 [&files] { return DigestByCommand(files.RandomFile(kFileSize)); });
-    AddComparison({"GetFileMD5_256MB", "openssl_md5_256MB", kLargestRatio});
+    AddBenchmark("GetFileMD5_256MB", FileSize,
+                 [&files] { return Digest(files.RandomFile(FileSize)); });
+    AddBenchmark("openssl_md5_256MB", FileSize,
+                 [&files] { return DigestByCommand(files.RandomFile(FileSize)); });
+    AddComparison({"GetFileMD5_256MB", "openssl_md5_256MB", LargestRatio});
 }
 
 }  // namespace velkarix

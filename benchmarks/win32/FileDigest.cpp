@@ -18,9 +18,9 @@
 namespace {
 
 // An odd number, so that one of the runs is the median.
-constexpr int kRepetitions = 7;
+constexpr int RepetitionCount = 7;
 // The share of the command's rate that is to be reached.
-constexpr double kLeastRatio = 0.9;
+constexpr double LeastRatio = 0.9;
 
 double Now() {
     LARGE_INTEGER count;
@@ -44,7 +44,7 @@ int main(int argc, char** argv) {
         static_cast<double>(velkarix::FileLength(machine.files, path).value_or(0)) / (1024 * 1024);
 
     std::vector<double> seconds;
-    for (int i = 0; i < kRepetitions; ++i) {
+    for (int i = 0; i < RepetitionCount; ++i) {
         const double start = Now();
         if (velkarix::GetFileMD5(machine, path).size() != 32) {
             std::fprintf(stderr, "no digest of %s\n", path.c_str());
@@ -53,14 +53,14 @@ int main(int argc, char** argv) {
         seconds.push_back(Now() - start);
     }
     std::sort(seconds.begin(), seconds.end());
-    const double median = seconds[kRepetitions / 2];
+    const double median = seconds[RepetitionCount / 2];
     std::printf("GetFileMD5_win32 %.1f MB/s\n", size / median);
     if (argc > 2) {
         const double reference = std::atof(argv[2]);
         std::printf("openssl_md5 %.1f MB/s\n", size / reference);
         const double ratio = reference / median;
         std::printf("GetFileMD5_win32 / openssl_md5: %.3f of its rate (at least %.3f, %s)\n", ratio,
-                    kLeastRatio, ratio >= kLeastRatio ? "met" : "MISSED");
+                    LeastRatio, ratio >= LeastRatio ? "met" : "MISSED");
     }
     return 0;
 }

@@ -6,7 +6,7 @@
 namespace velkarix {
 namespace {
 
-constexpr int kShifts[] = {16, 8, 0};
+constexpr int Shifts[] = {16, 8, 0};
 
 int Channel(std::uint32_t pixel, int shift) {
     return static_cast<int>(pixel >> shift & 0xFF);
@@ -16,14 +16,14 @@ int Channel(std::uint32_t pixel, int shift) {
 // a channel is what shows through.
 std::uint32_t Pixel(std::uint32_t black, std::uint32_t white) {
     int through = 0;
-    for (const int shift : kShifts) {
+    for (const int shift : Shifts) {
         through = std::max(through, Channel(white, shift) - Channel(black, shift));
     }
     const int alpha = 255 - through;
     if (alpha == 0) return 0;
 
     auto pixel = static_cast<std::uint32_t>(alpha) << 24;
-    for (const int shift : kShifts) {
+    for (const int shift : Shifts) {
         const int colour = (Channel(black, shift) * 255 + alpha / 2) / alpha;
         pixel |= static_cast<std::uint32_t>(std::min(colour, 255)) << shift;
     }

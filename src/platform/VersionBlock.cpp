@@ -9,10 +9,10 @@ namespace velkarix {
 namespace {
 
 // Real resources have four levels: root, StringFileInfo, table, string.
-constexpr int kDeepestLevel = 8;
+constexpr int DeepestLevel = 8;
 
-constexpr std::size_t kText = 1;
-constexpr std::string_view kRootName = "VS_VERSION_INFO";
+constexpr std::size_t Text = 1;
+constexpr std::string_view RootName = "VS_VERSION_INFO";
 
 // The two forms of a node: the length of the whole node, the length of its value, in the 32-bit
 // form a type (1 is text), then its name.
@@ -20,8 +20,8 @@ struct Form {
     std::size_t headerSize;
     std::size_t characterSize;
 };
-constexpr Form kWide{6, 2};
-constexpr Form kNarrow{4, 1};
+constexpr Form Wide{6, 2};
+constexpr Form Narrow{4, 1};
 
 struct Node {
     std::size_t end = 0;  // behind the node and all below it, never outside of its parent
@@ -42,7 +42,7 @@ class Reader {
     explicit Reader(const Bytes& block)
         // Where a 16-bit block has the first letter of its name, a 32-bit one has the type.
         : block_(block),
-          form_(block.size() > 4 && block[4] >= ' ' ? kNarrow : kWide),
+          form_(block.size() > 4 && block[4] >= ' ' ? Narrow : Wide),
           end_(block.size() < 2 ? 0 : std::min(Word(0), block.size())) {}
 
     std::optional<Node> Root() const { return NodeAt(0, block_.size()); }
@@ -88,7 +88,7 @@ class Reader {
     // Whether `node` and all below it are sound. Nodes can't overlap here, so that the walk is
     // as long as the block and no longer.
     bool IsSound(const Node& node, int level) const {
-        if (!node.isSound || level > kDeepestLevel) return false;
+        if (!node.isSound || level > DeepestLevel) return false;
         std::size_t offset = node.children;
         while (HasRoom(offset, node.end)) {
             const auto child = NodeAt(offset, node.end);
@@ -100,11 +100,11 @@ class Reader {
 
     Bytes ValueOf(const Node& node) const {
         Bytes value;
-        const std::size_t step = node.type == kText ? 2 : 1;
+        const std::size_t step = node.type == Text ? 2 : 1;
         for (std::size_t i = 0; i + step <= node.valueSize; i += step) {
             const std::size_t position = node.value + i;
-            value.push_back(node.type == kText ? static_cast<std::uint8_t>(AnsiCharacter(position))
-                                               : block_[position]);
+            value.push_back(node.type == Text ? static_cast<std::uint8_t>(AnsiCharacter(position))
+                                              : block_[position]);
         }
         return value;
     }
@@ -135,7 +135,7 @@ class Reader {
     // The count of a text's value is one of characters. Some resource compilers give bytes, so a
     // value may reach past its node and yet be inside the resource.
     void SetValue(Node& node, std::size_t start, std::size_t count) const {
-        const std::size_t claimed = node.type == kText ? 2 * count : count;
+        const std::size_t claimed = node.type == Text ? 2 * count : count;
         node.value = std::min(start, end_);
         node.valueSize = std::min(claimed, end_ - node.value);
         node.isSound = node.isSound && node.valueSize == claimed;
@@ -160,7 +160,7 @@ bool IsVersionBlockSound(const Bytes& block) {
     const Reader reader(block);
     const auto root = reader.Root();
     // A root that is odd itself could be read in the other form by somebody else.
-    return root && root->name == kRootName && root->type <= kText && reader.IsSound(*root, 1);
+    return root && root->name == RootName && root->type <= Text && reader.IsSound(*root, 1);
 }
 
 std::optional<Bytes> QueryVersionBlock(const Bytes& block, const std::string& subBlock) {

@@ -10,10 +10,10 @@
 namespace velkarix {
 namespace {
 
-constexpr const char* kBreak = LineBreak.data();
+constexpr const char* Break = LineBreak.data();
 
 // No tree of the system is deeper; a link that leads back up makes an endless one.
-constexpr int kDeepestLevel = 512;
+constexpr int DeepestLevel = 512;
 
 }  // namespace
 
@@ -71,7 +71,7 @@ bool modRegistry::CreateKey(Hive hive, const std::string& key) {
 bool modRegistry::DeleteKey(Hive hive, const std::string& key, bool quiet) {
     const ErrorCode deleted = registry_.RegDeleteKeyA(Registry::HandleOf(hive), key);
     if (deleted != error::Success && !quiet) {
-        ShowFailure("Key Could not be deleted", key + kBreak, deleted);
+        ShowFailure("Key Could not be deleted", key + Break, deleted);
     }
     return deleted == error::Success;
 }
@@ -87,7 +87,7 @@ bool modRegistry::DeleteValue(Hive hive, const std::string& key, const std::stri
     }
     open.Close();
     if (result != error::Success && !quiet) {
-        ShowFailure(failure, key + kBreak + kBreak + valueName, result);
+        ShowFailure(failure, key + Break + Break + valueName, result);
     }
     return result == error::Success;
 }
@@ -98,7 +98,7 @@ bool modRegistry::DeleteSubKeys(Hive hive, const std::string& key) {
 }
 
 bool modRegistry::DeleteBelow(Hive hive, const std::string& key, int level, bool& opened) {
-    if (level > kDeepestLevel) return false;
+    if (level > DeepestLevel) return false;
     OpenKey open(registry_);
     opened = open.Open(Registry::HandleOf(hive), key, KeyAccess::All) == error::Success;
     if (!opened) return true;
@@ -146,7 +146,7 @@ std::string modRegistry::GetSystemErrorText(ErrorCode code) {
 }
 
 void modRegistry::ShowFailure(const char* what, const std::string& detail, ErrorCode code) {
-    desktop_.ShowMessage({std::string("Following ") + what + ": " + kBreak + detail + kBreak +
+    desktop_.ShowMessage({std::string("Following ") + what + ": " + Break + detail + Break +
                               GetSystemErrorText(code),
                           title_, MessageIcon::Critical, MessageButtons::Ok});
 }

@@ -10,7 +10,7 @@ namespace velkarix {
 namespace {
 
 // What is read is folded and indexed while it is still in the processor's cache.
-constexpr std::size_t kBlockSize = std::size_t{256} * 1024;
+constexpr std::size_t BlockSize = std::size_t{256} * 1024;
 
 }  // namespace
 
@@ -19,7 +19,7 @@ bool DefinitionList::ReadAll(FileSystem& files, FileHandle file, std::uint64_t l
     const auto expected = static_cast<std::size_t>(std::min<std::uint64_t>(length, SIZE_MAX));
     if (folded_.Reserve(expected)) index_.Reserve(folded_.Text().size() + expected);
     for (;;) {
-        const std::span<std::uint8_t> room = folded_.Room(kBlockSize);
+        const std::span<std::uint8_t> room = folded_.Room(BlockSize);
         std::uint32_t read = 0;
         if (room.empty() || files.ReadFile(file, room, read) != error::Success) return false;
         if (read == 0) return true;

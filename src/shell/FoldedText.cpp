@@ -8,19 +8,19 @@ namespace {
 
 // A machine word, to look at several bytes at once.
 using Word = std::size_t;
-constexpr std::size_t kWordsAtOnce = 4;
+constexpr std::size_t WordsAtOnce = 4;
 
 // Line ends are below this, and hardly anything else is.
-constexpr unsigned char kControlEnd = 0x10;
-constexpr Word kOnes = ~Word{0} / 0xFF;
+constexpr unsigned char ControlEnd = 0x10;
+constexpr Word Ones = ~Word{0} / 0xFF;
 
-// Not 0 when a byte of `word` is below kControlEnd.
+// Not 0 when a byte of `word` is below ControlEnd.
 Word ControlBytes(Word word) {
-    return (word - kOnes * kControlEnd) & ~word & (kOnes * 0x80);
+    return (word - Ones * ControlEnd) & ~word & (Ones * 0x80);
 }
 
 bool IsControl(char c) {
-    return static_cast<unsigned char>(c) < kControlEnd;
+    return static_cast<unsigned char>(c) < ControlEnd;
 }
 
 // What is still to be folded, and where it goes. Handed on by value, so that it stays in registers.
@@ -53,7 +53,7 @@ Cursor MoveWords(Cursor at) {
 // Moves the rest of a line, up to its end or that of the source.
 Cursor MoveLine(Cursor at) {
     while (!at.AtEnd() && *at.source != '\r' && *at.source != '\n') {
-        if (!IsControl(*at.source)) at = MoveWords<kWordsAtOnce>(at);
+        if (!IsControl(*at.source)) at = MoveWords<WordsAtOnce>(at);
         if (!at.AtEnd() && !IsControl(*at.source)) at = MoveWords<1>(at);
         if (!at.AtEnd() && *at.source != '\r' && *at.source != '\n') *at.target++ = *at.source++;
     }

@@ -7,24 +7,24 @@
 namespace velkarix {
 namespace {
 
-constexpr int kHashBits = 32;
-constexpr int kFewestHeadBits = 8;
+constexpr int HashBits = 32;
+constexpr int FewestHeadBits = 8;
 // More heads than this could be counted by entries no longer.
-constexpr int kMostHeadBits = 28;
+constexpr int MostHeadBits = 28;
 // How many samples share a head before the heads are made anew. Fewer cost memory, and setting up
 // memory is most of the cost of the index; more cost time in each question.
-constexpr int kSampleBitsPerHead = 2;
+constexpr int SampleBitsPerHead = 2;
 
 // Following a link costs about as much as a plain search does for this many bytes.
-constexpr std::size_t kBytesPerLink = 64;
-constexpr std::size_t kFewestLinks = 64;
-constexpr std::size_t kBytesComparedPerLink = 32;
+constexpr std::size_t BytesPerLink = 64;
+constexpr std::size_t FewestLinks = 64;
+constexpr std::size_t BytesComparedPerLink = 32;
 
 std::uint32_t HashOf(const char* gram) {
     std::uint64_t bytes = 0;
     static_assert(sizeof bytes == GramIndex::GramSize);
     std::memcpy(&bytes, gram, sizeof bytes);
-    return static_cast<std::uint32_t>((bytes * 0x9E3779B97F4A7C15u) >> kHashBits);
+    return static_cast<std::uint32_t>((bytes * 0x9E3779B97F4A7C15u) >> HashBits);
 }
 
 // Whether `item` stands in `text` so that its gram at `offset` is the sample of this number.
@@ -49,17 +49,17 @@ bool GramIndex::MakeRoom(std::size_t samples) {
         !links_.Grow(std::max(samples + 1, links + links / 2), sampleCount_ == 0 ? 0 : links)) {
         return false;
     }
-    if (samples <= headCount_ << kSampleBitsPerHead) return true;
+    if (samples <= headCount_ << SampleBitsPerHead) return true;
 
-    int bits = kFewestHeadBits;
-    while (bits <= kMostHeadBits && samples >> kSampleBitsPerHead >> bits != 0) ++bits;
+    int bits = FewestHeadBits;
+    while (bits <= MostHeadBits && samples >> SampleBitsPerHead >> bits != 0) ++bits;
     const std::size_t count = std::size_t{1} << bits;
-    if (bits > kMostHeadBits || !heads_.Grow(count, 0)) return false;
+    if (bits > MostHeadBits || !heads_.Grow(count, 0)) return false;
     std::fill_n(heads_.Data(), count, Entry{0});
     links_.Data()[0] = 0;
     headCount_ = count;
-    headShift_ = kHashBits - bits;
-    numberBits_ = bits + kSampleBitsPerHead + 1;
+    headShift_ = HashBits - bits;
+    numberBits_ = bits + SampleBitsPerHead + 1;
     sampleCount_ = 0;
     return true;
 }
@@ -91,7 +91,7 @@ std::optional<bool> GramIndex::Contains(std::string_view text, std::string_view 
         tags[offset] = hash << numberBits_ >> numberBits_;
         entries[offset] = heads_.Data()[hash >> headShift_];
     }
-    std::size_t linksLeft = kFewestLinks + text.size() / kBytesPerLink;
+    std::size_t linksLeft = FewestLinks + text.size() / BytesPerLink;
     for (Entry any = 1; any != 0;) {
         if (linksLeft < Step) return std::nullopt;
         linksLeft -= Step;
@@ -102,7 +102,7 @@ std::optional<bool> GramIndex::Contains(std::string_view text, std::string_view 
             any |= entries[offset];
             if (entry >> numberBits_ != tags[offset]) continue;
             if (StandsAt(text, item, NumberOf(entry), offset)) return true;
-            linksLeft -= std::min(linksLeft, item.size() / kBytesComparedPerLink);
+            linksLeft -= std::min(linksLeft, item.size() / BytesComparedPerLink);
         }
     }
     return false;

@@ -10,14 +10,14 @@
 namespace velkarix {
 namespace {
 
-constexpr std::uint32_t kIniCapacity = 255;
-constexpr std::string_view kBlanks = " \t";
+constexpr std::uint32_t IniCapacity = 255;
+constexpr std::string_view Blanks = " \t";
 
 // Powers of ten up to this one are exact.
-constexpr int kExactPower = 22;
-constexpr int kLargestExponent = 999;
+constexpr int ExactPower = 22;
+constexpr int LargestExponent = 999;
 // So that one digit more still fits into 64 bits.
-constexpr std::uint64_t kLargestMantissa = std::numeric_limits<std::uint64_t>::max() / 10 - 1;
+constexpr std::uint64_t LargestMantissa = std::numeric_limits<std::uint64_t>::max() / 10 - 1;
 
 bool IsDigit(char c) {
     return c >= '0' && c <= '9';
@@ -25,7 +25,7 @@ bool IsDigit(char c) {
 
 double Scaled(double value, int exponent) {
     while (exponent != 0) {
-        const int step = std::clamp(exponent, -kExactPower, kExactPower);
+        const int step = std::clamp(exponent, -ExactPower, ExactPower);
         double power = 1;
         for (int i = 0; i < std::abs(step); ++i) power *= 10;
         value = step > 0 ? value * power : value / power;
@@ -65,10 +65,10 @@ class NumberReader {
     bool ReadDigits(int exponentOfEach) {
         bool any = false;
         for (; !rest_.empty() && IsDigit(rest_.front()); rest_.remove_prefix(1), any = true) {
-            const bool isKept = mantissa_ <= kLargestMantissa;
+            const bool isKept = mantissa_ <= LargestMantissa;
             if (isKept) mantissa_ = mantissa_ * 10 + static_cast<unsigned>(rest_.front() - '0');
             const int moved = exponent_ + exponentOfEach + (isKept ? 0 : 1);
-            exponent_ = std::clamp(moved, -kLargestExponent, kLargestExponent);
+            exponent_ = std::clamp(moved, -LargestExponent, LargestExponent);
         }
         return any;
     }
@@ -84,7 +84,7 @@ class NumberReader {
         }
         int exponent = 0;
         for (; !rest_.empty() && IsDigit(rest_.front()); rest_.remove_prefix(1)) {
-            exponent = std::min(exponent * 10 + (rest_.front() - '0'), kLargestExponent);
+            exponent = std::min(exponent * 10 + (rest_.front() - '0'), LargestExponent);
         }
         exponent_ += isNegative ? -exponent : exponent;
     }
@@ -95,7 +95,7 @@ class NumberReader {
 };
 
 std::string_view WithoutLeadingBlanks(std::string_view text) {
-    return text.substr(std::min(text.find_first_not_of(kBlanks), text.size()));
+    return text.substr(std::min(text.find_first_not_of(Blanks), text.size()));
 }
 
 }  // namespace
@@ -111,7 +111,7 @@ std::string Settings::FileOrDefault(const std::string& file) {
 
 std::string Settings::ReadIni(const std::string& section, const std::string& key,
                               const std::string& fallback, const std::string& file) {
-    return TrimAtNull(profileFiles_.GetPrivateProfileStringA(section, key, fallback, kIniCapacity,
+    return TrimAtNull(profileFiles_.GetPrivateProfileStringA(section, key, fallback, IniCapacity,
                                                              FileOrDefault(file)));
 }
 

@@ -12,15 +12,15 @@ namespace velkarix {
 namespace {
 
 // By row.
-constexpr const char* kFieldNames[] = {
+constexpr const char* FieldNames[] = {
     "ProductName",    "ProductVersion",   "FileDescription", "FileVersion",
     "InternalName",   "OriginalFilename", "Comments",        "CompanyName",
     "LegalCopyright", "LegalTrademarks",  "PrivateBuild",    "SpecialBuild",
 };
-constexpr std::size_t kCreationDateRow = std::size(kFieldNames);
+constexpr std::size_t CreationDateRow = std::size(FieldNames);
 
 // All lengths inside a resource have 16 bits, so that a size far beyond that is made up.
-constexpr std::uint32_t kLargestResource = 1024 * 1024;
+constexpr std::uint32_t LargestResource = 1024 * 1024;
 
 // The name of the table of strings for a translation, whose bytes are two little-endian words:
 // 09 04 B0 04 is "040904B0".
@@ -36,13 +36,13 @@ std::string LanguageKey(const Bytes& translation) {
 void clsProcess::GetFileDescription(const std::string& path) {
     values_.fill({});
     ReadVersion(path);
-    values_[kCreationDateRow] = CreationDate(path);
+    values_[CreationDateRow] = CreationDate(path);
 }
 
 void clsProcess::ReadVersion(const std::string& path) {
     VersionResources& resources = machine_.versionResources;
     const std::uint32_t size = resources.GetFileVersionInfoSizeA(path);
-    if (size < 1 || size > kLargestResource) return;
+    if (size < 1 || size > LargestResource) return;
     const std::optional<Bytes> block = resources.GetFileVersionInfoA(path, size);
     if (!block) return;
     // The fixed block holds nothing that is shown.
@@ -52,9 +52,8 @@ void clsProcess::ReadVersion(const std::string& path) {
     if (!translation || translation->size() < 4) return;
     // The first translation alone counts, also when there are no strings for it.
     const std::string table = "\\StringFileInfo\\" + LanguageKey(*translation) + "\\";
-    for (std::size_t row = 0; row < std::size(kFieldNames); ++row) {
-        const std::optional<Bytes> text =
-            resources.VerQueryValueA(*block, table + kFieldNames[row]);
+    for (std::size_t row = 0; row < std::size(FieldNames); ++row) {
+        const std::optional<Bytes> text = resources.VerQueryValueA(*block, table + FieldNames[row]);
         if (text) values_[row] = TrimAtNull(std::string(text->begin(), text->end()));
     }
 }

@@ -12,15 +12,15 @@ namespace velkarix {
 namespace {
 
 // Small enough to stay in the processor's cache from reading to hashing.
-constexpr std::size_t kBlockSize = std::size_t{256} * 1024;
-constexpr std::size_t kDigestSize = 16;
+constexpr std::size_t BlockSize = std::size_t{256} * 1024;
+constexpr std::size_t DigestSize = 16;
 
 bool HashFile(FileSystem& files, FileHandle file, Hash& hash) {
     RawBuffer<std::uint8_t> block;
-    if (!block.Grow(kBlockSize, 0)) return false;
+    if (!block.Grow(BlockSize, 0)) return false;
     for (;;) {
         std::uint32_t read = 0;
-        if (files.ReadFile(file, {block.Data(), kBlockSize}, read) != error::Success) return false;
+        if (files.ReadFile(file, {block.Data(), BlockSize}, read) != error::Success) return false;
         if (read == 0) return true;
         if (!hash.CryptHashData({block.Data(), read})) return false;
     }
@@ -44,7 +44,7 @@ std::string GetFileMD5(const Machine& machine, const std::string& path) {
     const std::unique_ptr<Hash> hash = machine.cryptography.CryptCreateHash();
     if (!hash || !HashFile(machine.files, file.Handle(), *hash)) return {};
     const std::optional<Bytes> digest = hash->CryptGetHashParam();
-    return digest && digest->size() == kDigestSize ? ToHex(*digest) : std::string();
+    return digest && digest->size() == DigestSize ? ToHex(*digest) : std::string();
 }
 
 }  // namespace velkarix

@@ -72,11 +72,11 @@ class BlockBuilder {
     bool isWide_;
 };
 
-const BlockBuilder kWide(true);
-const BlockBuilder kNarrow(false);
-const std::string kCompany = "\\StringFileInfo\\040904B0\\CompanyName";
-const std::string kVersion = "\\StringFileInfo\\040904B0\\FileVersion";
-const std::string kTranslation = "\\VarFileInfo\\Translation";
+const BlockBuilder Wide(true);
+const BlockBuilder Narrow(false);
+const std::string CompanyPath = "\\StringFileInfo\\040904B0\\CompanyName";
+const std::string Version = "\\StringFileInfo\\040904B0\\FileVersion";
+const std::string TranslationPath = "\\VarFileInfo\\Translation";
 
 Bytes Text(const std::string& text) {
     return Bytes(text.c_str(), text.c_str() + text.size() + 1);
@@ -103,17 +103,17 @@ std::size_t NodeStart(const Bytes& block, const std::u16string& name) {
 }
 
 class BothForms : public testing::TestWithParam<const BlockBuilder*> {};
-INSTANTIATE_TEST_SUITE_P(VersionBlock, BothForms, testing::Values(&kWide, &kNarrow));
+INSTANTIATE_TEST_SUITE_P(VersionBlock, BothForms, testing::Values(&Wide, &Narrow));
 
 TEST_P(BothForms, GivesTextsWithTheirNul) {
     const auto block = Sample(*GetParam());
-    EXPECT_EQ(QueryVersionBlock(block, kCompany), Text("Lathe Works"));
-    EXPECT_EQ(QueryVersionBlock(block, kVersion), Text("1.2"));
+    EXPECT_EQ(QueryVersionBlock(block, CompanyPath), Text("Lathe Works"));
+    EXPECT_EQ(QueryVersionBlock(block, Version), Text("1.2"));
 }
 
 TEST_P(BothForms, GivesBinaryDataAsItStands) {
     const auto block = Sample(*GetParam());
-    EXPECT_EQ(QueryVersionBlock(block, kTranslation), (Bytes{0x09, 0x04, 0xB0, 0x04}));
+    EXPECT_EQ(QueryVersionBlock(block, TranslationPath), (Bytes{0x09, 0x04, 0xB0, 0x04}));
     EXPECT_EQ(QueryVersionBlock(block, "\\"), (Bytes{0xBD, 0x04, 0xEF, 0xFE}));
     EXPECT_EQ(QueryVersionBlock(block, ""), (Bytes{0xBD, 0x04, 0xEF, 0xFE}));
 }
@@ -135,7 +135,7 @@ TEST_P(BothForms, StaysSoundWithSpareBytesBehind) {
     auto block = Sample(*GetParam());
     block.resize(2 * block.size() + 4);
     EXPECT_TRUE(IsVersionBlockSound(block));
-    EXPECT_EQ(QueryVersionBlock(block, kVersion), Text("1.2"));
+    EXPECT_EQ(QueryVersionBlock(block, Version), Text("1.2"));
 }
 
 TEST_P(BothForms, AnyPieceOfABlockIsReadWithoutLeavingIt) {
@@ -143,7 +143,7 @@ TEST_P(BothForms, AnyPieceOfABlockIsReadWithoutLeavingIt) {
     for (std::size_t size = 0; size < block.size(); ++size) {
         const Bytes piece(block.begin(), block.begin() + static_cast<std::ptrdiff_t>(size));
         EXPECT_FALSE(IsVersionBlockSound(piece)) << size;
-        const auto company = QueryVersionBlock(piece, kCompany).value_or(Bytes{});
+        const auto company = QueryVersionBlock(piece, CompanyPath).value_or(Bytes{});
         EXPECT_LE(company.size(), Text("Lathe Works").size()) << size;
     }
 }
@@ -155,7 +155,7 @@ TEST_P(BothForms, ABlockWithAnyByteChangedIsReadWithoutLeavingIt) {
             auto broken = block;
             broken[changed] = static_cast<std::uint8_t>(byte);
             IsVersionBlockSound(broken);
-            for (const auto& part : {kCompany, kVersion, kTranslation}) {
+            for (const auto& part : {CompanyPath, Version, TranslationPath}) {
                 const auto found = QueryVersionBlock(broken, part).value_or(Bytes{});
                 EXPECT_LE(found.size(), block.size()) << changed;
             }
@@ -164,85 +164,85 @@ TEST_P(BothForms, ABlockWithAnyByteChangedIsReadWithoutLeavingIt) {
 }
 
 TEST(VersionBlock, KeepsLatinCharactersAndMarksOthers) {
-    const auto block = kWide.Program({kWide.String(u"CompanyName", u"Caf\u00E9 \u0416\u2019")});
-    EXPECT_EQ(QueryVersionBlock(block, kCompany), Text("Caf\xE9 ??"));
+    const auto block = Wide.Program({Wide.String(u"CompanyName", u"Caf\u00E9 \u0416\u2019")});
+    EXPECT_EQ(QueryVersionBlock(block, CompanyPath), Text("Caf\xE9 ??"));
 }
 
 TEST(VersionBlock, AnEmptyTextIsFoundAndEmpty) {
-    const auto block = kWide.Program({kWide.Node(u"CompanyName", 0, 1, {})});
-    EXPECT_EQ(QueryVersionBlock(block, kCompany), Bytes{});
+    const auto block = Wide.Program({Wide.Node(u"CompanyName", 0, 1, {})});
+    EXPECT_EQ(QueryVersionBlock(block, CompanyPath), Bytes{});
     EXPECT_TRUE(IsVersionBlockSound(block));
 }
 
 TEST(VersionBlock, ATextCountedInBytesReachesPastItsNodeButNotPastTheBlock) {
     const Bytes value = {'A', 0, 'b', 0, 0, 0};
-    auto block = kWide.Program({kWide.Node(u"CompanyName", 6, 1, value)});
-    const auto inside = QueryVersionBlock(block, kCompany);
+    auto block = Wide.Program({Wide.Node(u"CompanyName", 6, 1, value)});
+    const auto inside = QueryVersionBlock(block, CompanyPath);
     ASSERT_TRUE(inside);
     EXPECT_EQ(inside->size(), 6U);
     EXPECT_EQ(Bytes(inside->begin(), inside->begin() + 3), Text("Ab"));
     EXPECT_TRUE(IsVersionBlockSound(block));
 
     block.resize(Find(block, u"Ab") + 8);
-    EXPECT_EQ(QueryVersionBlock(block, kCompany)->size(), 4U);
+    EXPECT_EQ(QueryVersionBlock(block, CompanyPath)->size(), 4U);
     EXPECT_FALSE(IsVersionBlockSound(block));
 }
 
 TEST(VersionBlock, AValueLongerThanTheBlockIsCutThere) {
-    auto block = Sample(kWide);
+    auto block = Sample(Wide);
     const auto node = NodeStart(block, u"Translation");
     block[node + 2] = 0xFF;
     block[node + 3] = 0xFF;
     EXPECT_FALSE(IsVersionBlockSound(block));
-    EXPECT_EQ(QueryVersionBlock(block, kTranslation), (Bytes{0x09, 0x04, 0xB0, 0x04}));
+    EXPECT_EQ(QueryVersionBlock(block, TranslationPath), (Bytes{0x09, 0x04, 0xB0, 0x04}));
 }
 
 TEST(VersionBlock, ABlockThatCouldBeTakenForTheOtherFormIsNotSound) {
-    auto oddType = Sample(kWide);
+    auto oddType = Sample(Wide);
     oddType[5] = 'V';
     EXPECT_FALSE(IsVersionBlockSound(oddType));
-    EXPECT_EQ(QueryVersionBlock(oddType, kVersion), Text("1.2"));
+    EXPECT_EQ(QueryVersionBlock(oddType, Version), Text("1.2"));
 
-    auto oddName = Sample(kNarrow);
+    auto oddName = Sample(Narrow);
     oddName[4] = ' ';
     EXPECT_FALSE(IsVersionBlockSound(oddName));
-    EXPECT_EQ(QueryVersionBlock(oddName, kVersion), Text("1.2"));
+    EXPECT_EQ(QueryVersionBlock(oddName, Version), Text("1.2"));
 }
 
 TEST(VersionBlock, WhatRemainsBehindTheLastNodeMustBeZeros) {
     // Compilers that don't count a text's NUL leave it behind the value.
-    auto block = kWide.Program({kWide.Node(u"CompanyName", 2, 1, {'A', 0, 'b', 0, 0, 0})});
+    auto block = Wide.Program({Wide.Node(u"CompanyName", 2, 1, {'A', 0, 'b', 0, 0, 0})});
     EXPECT_TRUE(IsVersionBlockSound(block));
-    EXPECT_EQ(QueryVersionBlock(block, kCompany), (Bytes{'A', 'b'}));
+    EXPECT_EQ(QueryVersionBlock(block, CompanyPath), (Bytes{'A', 'b'}));
 
     block[Find(block, u"Ab") + 4] = 0x40;
     EXPECT_FALSE(IsVersionBlockSound(block));
-    EXPECT_EQ(QueryVersionBlock(block, kCompany), (Bytes{'A', 'b'}));
+    EXPECT_EQ(QueryVersionBlock(block, CompanyPath), (Bytes{'A', 'b'}));
 }
 
 TEST(VersionBlock, ATextDoesNotReachIntoTheSpareBytesBehindTheResource) {
-    auto block = Sample(kWide);
+    auto block = Sample(Wide);
     block[NodeStart(block, u"FileVersion") + 2] = 200;
     const std::size_t start = Find(block, u"1.2");
     const std::size_t length = block.size() - start;
     block.resize(2 * block.size());
     EXPECT_FALSE(IsVersionBlockSound(block));
-    EXPECT_EQ(QueryVersionBlock(block, kVersion)->size(), length / 2);
+    EXPECT_EQ(QueryVersionBlock(block, Version)->size(), length / 2);
 }
 
 TEST(VersionBlock, ANodeLongerThanItsParentIsNotSoundButItsTextIsFound) {
-    auto block = Sample(kWide);
+    auto block = Sample(Wide);
     block[NodeStart(block, u"FileVersion") + 1] = 0x7F;
     EXPECT_FALSE(IsVersionBlockSound(block));
-    EXPECT_EQ(QueryVersionBlock(block, kVersion), Text("1.2"));
+    EXPECT_EQ(QueryVersionBlock(block, Version), Text("1.2"));
 }
 
 TEST(VersionBlock, ANodeWithoutLengthEndsTheSearch) {
-    auto block = Sample(kWide);
+    auto block = Sample(Wide);
     block[NodeStart(block, u"CompanyName")] = 0;
     EXPECT_FALSE(IsVersionBlockSound(block));
-    EXPECT_EQ(QueryVersionBlock(block, kVersion), std::nullopt);
-    EXPECT_EQ(QueryVersionBlock(block, kTranslation), (Bytes{0x09, 0x04, 0xB0, 0x04}));
+    EXPECT_EQ(QueryVersionBlock(block, Version), std::nullopt);
+    EXPECT_EQ(QueryVersionBlock(block, TranslationPath), (Bytes{0x09, 0x04, 0xB0, 0x04}));
 }
 
 TEST(VersionBlock, ANameWithoutEndIsNoNode) {
@@ -256,8 +256,8 @@ TEST(VersionBlock, ANameWithoutEndIsNoNode) {
 
 TEST(VersionBlock, NodesNestedWithoutMeasureAreNotSound) {
     Bytes block;
-    for (int level = 0; level < 100; ++level) block = kWide.Node(u"n", 0, 0, {}, {block});
-    block = kWide.Node(u"VS_VERSION_INFO", 0, 0, {}, {block});
+    for (int level = 0; level < 100; ++level) block = Wide.Node(u"n", 0, 0, {}, {block});
+    block = Wide.Node(u"VS_VERSION_INFO", 0, 0, {}, {block});
     EXPECT_FALSE(IsVersionBlockSound(block));
     EXPECT_TRUE(QueryVersionBlock(block, "\\n\\n\\n"));
 }

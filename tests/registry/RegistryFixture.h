@@ -30,8 +30,8 @@ class RegistryFixture : public testing::Test {
         return desktop.messages[0].text;
     }
 
-    static constexpr Hive kUser = Hive::CurrentUser;
-    static constexpr Hive kMachine = Hive::LocalMachine;
+    static constexpr Hive User = Hive::CurrentUser;
+    static constexpr Hive MachineHive = Hive::LocalMachine;
     const std::string key = "Software\\Example";
 
     MemoryMachine machine;

@@ -11,8 +11,8 @@ class modRegistryReadTest : public RegistryFixture {
   protected:
     // What EnumValues makes of one value of this type and these bytes.
     RegValueEntry Entry(std::uint32_t type, Bytes data) {
-        machine.registry.SetRaw(kUser, key, "Name", type, std::move(data));
-        const auto entries = registry.EnumValues(kUser, key);
+        machine.registry.SetRaw(User, key, "Name", type, std::move(data));
+        const auto entries = registry.EnumValues(User, key);
         EXPECT_EQ(entries.size(), 1u);
         return entries.empty() ? RegValueEntry{} : entries[0];
     }
@@ -24,16 +24,16 @@ class modRegistryReadTest : public RegistryFixture {
         return {"Name", std::move(bytes), RegValueTag::ByteArray};
     }
 
-    const RegValueEntry kNoData{"Name", "", RegValueTag::None};
+    const RegValueEntry NoData{"Name", "", RegValueTag::None};
 };
 
 // ---- EnumSubKeys
 
 TEST_F(modRegistryReadTest, EnumSubKeysAddsTheNamesToTheList) {
-    machine.AddKey(kUser, key + "\\A\\Below");
-    machine.AddKey(kUser, key + "\\B");
+    machine.AddKey(User, key + "\\A\\Below");
+    machine.AddKey(User, key + "\\B");
     Strings names = {"there before"};
-    registry.EnumSubKeys(kUser, key, names);
+    registry.EnumSubKeys(User, key, names);
     EXPECT_EQ(names, (Strings{"there before", "A", "B"}));
     EXPECT_EQ(Calls(), (Strings{"RegOpenKeyA", "RegEnumKeyExA", "RegEnumKeyExA", "RegEnumKeyExA",
                                 "RegCloseKey"}));
@@ -41,35 +41,35 @@ TEST_F(modRegistryReadTest, EnumSubKeysAddsTheNamesToTheList) {
 
 TEST_F(modRegistryReadTest, EnumSubKeysOfAMissingKeyLeavesTheListAsItWas) {
     Strings names = {"there before"};
-    registry.EnumSubKeys(kUser, key, names);
+    registry.EnumSubKeys(User, key, names);
     EXPECT_EQ(names, (Strings{"there before"}));
     EXPECT_TRUE(desktop.messages.empty());
 }
 
 TEST_F(modRegistryReadTest, EnumSubKeysTakesNamesOf254BytesAndEndsAtALongerOne) {
-    machine.AddKey(kUser, key + "\\" + std::string(254, 'a'));
-    machine.AddKey(kUser, key + "\\" + std::string(255, 'b'));
-    machine.AddKey(kUser, key + "\\c");
+    machine.AddKey(User, key + "\\" + std::string(254, 'a'));
+    machine.AddKey(User, key + "\\" + std::string(255, 'b'));
+    machine.AddKey(User, key + "\\c");
     Strings names;
-    registry.EnumSubKeys(kUser, key, names);
+    registry.EnumSubKeys(User, key, names);
     EXPECT_EQ(names, (Strings{std::string(254, 'a')}));
 }
 
 TEST_F(modRegistryReadTest, EnumSubKeysEndsAtTheFirstFailure) {
-    machine.AddKey(kUser, key + "\\A");
+    machine.AddKey(User, key + "\\A");
     machine.FailNext("RegEnumKeyExA");
     Strings names;
-    registry.EnumSubKeys(kUser, key, names);
+    registry.EnumSubKeys(User, key, names);
     EXPECT_TRUE(names.empty());
 }
 
 // ---- EnumValues
 
 TEST_F(modRegistryReadTest, EnumValuesKeepsTheOrderOfTheSystem) {
-    machine.SetValue(kUser, key, "b", "2");
-    machine.SetValue(kUser, key, "", "default");
-    machine.SetDword(kUser, key, "A", 3);
-    EXPECT_EQ(registry.EnumValues(kUser, key),
+    machine.SetValue(User, key, "b", "2");
+    machine.SetValue(User, key, "", "default");
+    machine.SetDword(User, key, "A", 3);
+    EXPECT_EQ(registry.EnumValues(User, key),
               (std::vector<RegValueEntry>{{"b", "2", RegValueTag::Text},
                                           {"", "default", RegValueTag::Text},
                                           {"A", 3, RegValueTag::Integer}}));
@@ -78,16 +78,16 @@ TEST_F(modRegistryReadTest, EnumValuesKeepsTheOrderOfTheSystem) {
 }
 
 TEST_F(modRegistryReadTest, EnumValuesOfAMissingOrForbiddenKeyIsEmpty) {
-    EXPECT_TRUE(registry.EnumValues(kUser, key).empty());
-    machine.SetValue(kUser, key, "Name", "text");
-    machine.registry.Restrict(kUser, key, KeyAccess::Write);
-    EXPECT_TRUE(registry.EnumValues(kUser, key).empty());
+    EXPECT_TRUE(registry.EnumValues(User, key).empty());
+    machine.SetValue(User, key, "Name", "text");
+    machine.registry.Restrict(User, key, KeyAccess::Write);
+    EXPECT_TRUE(registry.EnumValues(User, key).empty());
     EXPECT_TRUE(desktop.messages.empty());
 }
 
 TEST_F(modRegistryReadTest, EnumValuesOfAnEmptyKeyEnumeratesTheHiveItself) {
-    machine.SetValue(kUser, "", "Name", "text");
-    EXPECT_EQ(registry.EnumValues(kUser, ""), (std::vector<RegValueEntry>{Text("text")}));
+    machine.SetValue(User, "", "Name", "text");
+    EXPECT_EQ(registry.EnumValues(User, ""), (std::vector<RegValueEntry>{Text("text")}));
     EXPECT_EQ(Calls(), (Strings{"RegEnumValueA", "RegEnumValueA"}));
 }
 
@@ -101,24 +101,24 @@ TEST_F(modRegistryReadTest, EnumValuesTakesTheNulOffATextWhateverItIs) {
 
 TEST_F(modRegistryReadTest, EnumValuesGivesAnEmptyTextNoData) {
     for (const std::uint32_t type : {registryType::Sz, registryType::ExpandSz}) {
-        EXPECT_EQ(Entry(type, {}), kNoData);
-        EXPECT_EQ(Entry(type, {0}), kNoData);
-        EXPECT_EQ(Entry(type, {'a'}), kNoData);
+        EXPECT_EQ(Entry(type, {}), NoData);
+        EXPECT_EQ(Entry(type, {0}), NoData);
+        EXPECT_EQ(Entry(type, {'a'}), NoData);
     }
 }
 
 TEST_F(modRegistryReadTest, EnumValuesGivesSeveralTextsAsOneWithTheirNuls) {
     EXPECT_EQ(Entry(registryType::MultiSz, {'a', 0, 'b', 0, 0}), Text(std::string("a\0b", 3)));
     EXPECT_EQ(Entry(registryType::MultiSz, {'a', 0, 0}), Text("a"));
-    EXPECT_EQ(Entry(registryType::MultiSz, {'a', 0}), kNoData);
-    EXPECT_EQ(Entry(registryType::MultiSz, {0, 0}), kNoData);
-    EXPECT_EQ(Entry(registryType::MultiSz, {}), kNoData);
+    EXPECT_EQ(Entry(registryType::MultiSz, {'a', 0}), NoData);
+    EXPECT_EQ(Entry(registryType::MultiSz, {0, 0}), NoData);
+    EXPECT_EQ(Entry(registryType::MultiSz, {}), NoData);
 }
 
 TEST_F(modRegistryReadTest, EnumValuesGivesBytesAsTheyAre) {
     EXPECT_EQ(Entry(registryType::Binary, {0}), Data({0}));
     EXPECT_EQ(Entry(registryType::Binary, {1, 2, 3}), Data({1, 2, 3}));
-    EXPECT_EQ(Entry(registryType::Binary, {}), kNoData);
+    EXPECT_EQ(Entry(registryType::Binary, {}), NoData);
 }
 
 TEST_F(modRegistryReadTest, EnumValuesReadsTheFirstFourBytesOfANumberWhateverItsSize) {
@@ -132,7 +132,7 @@ TEST_F(modRegistryReadTest, EnumValuesReadsTheFirstFourBytesOfANumberWhateverIts
 TEST_F(modRegistryReadTest, EnumValuesGivesOtherTypesNoData) {
     for (const std::uint32_t type :
          {registryType::None, registryType::Qword, std::uint32_t{5}, std::uint32_t{0xFFFFFFFF}}) {
-        EXPECT_EQ(Entry(type, {1, 2, 3, 4, 5, 6, 7, 8}), kNoData) << type;
+        EXPECT_EQ(Entry(type, {1, 2, 3, 4, 5, 6, 7, 8}), NoData) << type;
     }
 }
 
@@ -147,18 +147,18 @@ TEST_F(modRegistryReadTest, EnumValuesReadsAValueOfMoreThan4096BytesWhole) {
 }
 
 TEST_F(modRegistryReadTest, EnumValuesReadsSmallValuesBehindALargeOne) {
-    machine.registry.SetRaw(kUser, key, "Large", registryType::Binary, Bytes(5000, 1));
-    machine.registry.SetRaw(kUser, key, "Small", registryType::Dword, {5});
-    const auto entries = registry.EnumValues(kUser, key);
+    machine.registry.SetRaw(User, key, "Large", registryType::Binary, Bytes(5000, 1));
+    machine.registry.SetRaw(User, key, "Small", registryType::Dword, {5});
+    const auto entries = registry.EnumValues(User, key);
     ASSERT_EQ(entries.size(), 2u);
     EXPECT_EQ(entries[1], (RegValueEntry{"Small", 5, RegValueTag::Integer}));
 }
 
 TEST_F(modRegistryReadTest, EnumValuesEndsAtANameOfMoreThan259Bytes) {
-    machine.SetValue(kUser, key, std::string(259, 'a'), "1");
-    machine.SetValue(kUser, key, std::string(260, 'b'), "2");
-    machine.SetValue(kUser, key, "c", "3");
-    const auto entries = registry.EnumValues(kUser, key);
+    machine.SetValue(User, key, std::string(259, 'a'), "1");
+    machine.SetValue(User, key, std::string(260, 'b'), "2");
+    machine.SetValue(User, key, "c", "3");
+    const auto entries = registry.EnumValues(User, key);
     ASSERT_EQ(entries.size(), 1u);
     EXPECT_EQ(entries[0].name, std::string(259, 'a'));
     // The long name is asked for once more, as a large value would be.
@@ -166,9 +166,9 @@ TEST_F(modRegistryReadTest, EnumValuesEndsAtANameOfMoreThan259Bytes) {
 }
 
 TEST_F(modRegistryReadTest, EnumValuesEndsAtTheFirstFailure) {
-    machine.SetValue(kUser, key, "Name", "text");
+    machine.SetValue(User, key, "Name", "text");
     machine.FailNext("RegEnumValueA", error::KeyDeleted);
-    EXPECT_TRUE(registry.EnumValues(kUser, key).empty());
+    EXPECT_TRUE(registry.EnumValues(User, key).empty());
 }
 
 // A registry whose one value is another each time that it is read.
@@ -198,7 +198,7 @@ struct ChangingRegistry : MemoryRegistry {
 
 class ChangingRegistryTest : public modRegistryReadTest {
   protected:
-    void SetUp() override { changing.AddKey(kUser, "Key"); }
+    void SetUp() override { changing.AddKey(User, "Key"); }
     void TearDown() override { EXPECT_EQ(changing.OpenKeyCount(), 0u); }
 
     ChangingRegistry changing{machine.Journal()};
@@ -212,44 +212,44 @@ class ChangingRegistryTest : public modRegistryReadTest {
 
 TEST_F(ChangingRegistryTest, EnumValuesReadsAValueThatGrowsBetweenTheCalls) {
     changing.sizes = {5000, 6000};
-    const auto entries = operations.EnumValues(kUser, "Key");
+    const auto entries = operations.EnumValues(User, "Key");
     ASSERT_EQ(entries.size(), 1u);
     EXPECT_EQ(entries[0], Text(std::string(5999, 'x')));
 }
 
 TEST_F(ChangingRegistryTest, EnumValuesReadsAValueThatShrinksBetweenTheCalls) {
     changing.sizes = {5000, 3};
-    const auto entries = operations.EnumValues(kUser, "Key");
+    const auto entries = operations.EnumValues(User, "Key");
     ASSERT_EQ(entries.size(), 1u);
     EXPECT_EQ(entries[0], Text("xx"));
 }
 
 TEST_F(ChangingRegistryTest, EnumValuesGivesUpOnAValueThatNeverStopsGrowing) {
     for (std::size_t size = 5000; size < 50'000; size += 1000) changing.sizes.push_back(size);
-    EXPECT_TRUE(operations.EnumValues(kUser, "Key").empty());
+    EXPECT_TRUE(operations.EnumValues(User, "Key").empty());
     EXPECT_LE(machine.Journal().CountOf("RegEnumValueA"), 10u);
 }
 
 TEST_F(ChangingRegistryTest, GetStringValueOfAValueThatGrowsBetweenTheQueriesIsEmpty) {
     changing.sizes = {3, 4};
-    EXPECT_EQ(operations.GetStringValue(kUser, "Key", "Name"), "");
+    EXPECT_EQ(operations.GetStringValue(User, "Key", "Name"), "");
 }
 
 TEST_F(ChangingRegistryTest, GetStringValueTakesWhatIsLeftOfAValueThatShrinks) {
     changing.sizes = {30, 4};
-    EXPECT_EQ(operations.GetStringValue(kUser, "Key", "Name"), "xxxx");
+    EXPECT_EQ(operations.GetStringValue(User, "Key", "Name"), "xxxx");
 }
 
 TEST_F(ChangingRegistryTest, GetBinaryValueOfAValueThatGrowsBetweenTheQueriesFails) {
     changing.sizes = {3, 4};
     Bytes bytes;
-    EXPECT_FALSE(operations.GetBinaryValue(kUser, "Key", "Name", bytes, false));
+    EXPECT_FALSE(operations.GetBinaryValue(User, "Key", "Name", bytes, false));
 }
 
 TEST_F(ChangingRegistryTest, GetBinaryValueTakesWhatIsLeftOfAValueThatShrinks) {
     changing.sizes = {30, 2};
     Bytes bytes;
-    EXPECT_TRUE(operations.GetBinaryValue(kUser, "Key", "Name", bytes, false));
+    EXPECT_TRUE(operations.GetBinaryValue(User, "Key", "Name", bytes, false));
     EXPECT_EQ(bytes, (Bytes{'x', 'x'}));
 }
 
@@ -274,7 +274,7 @@ struct LyingRegistry : ChangingRegistry {
 
 class LyingRegistryTest : public modRegistryReadTest {
   protected:
-    void SetUp() override { lying.AddKey(kUser, "Key"); }
+    void SetUp() override { lying.AddKey(User, "Key"); }
 
     LyingRegistry lying{machine.Journal()};
     Machine real = machine.Parts();
@@ -286,95 +286,95 @@ class LyingRegistryTest : public modRegistryReadTest {
 };
 
 TEST_F(LyingRegistryTest, EnumValuesLeavesOutANameThatDiffersInCaseOnly) {
-    const auto entries = operations.EnumValues(kUser, "Key");
+    const auto entries = operations.EnumValues(User, "Key");
     ASSERT_EQ(entries.size(), 2u);
     EXPECT_EQ(entries[0], Data({'1'}));
     EXPECT_EQ(entries[1].name, "Other");
 }
 
 TEST_F(LyingRegistryTest, NothingIsReadPastTheData) {
-    const auto entries = operations.EnumValues(kUser, "Key");
+    const auto entries = operations.EnumValues(User, "Key");
     ASSERT_EQ(entries.size(), 2u);
     EXPECT_EQ(std::get<Bytes>(entries[1].data).size(), 4096u);
 }
 
 TEST_F(LyingRegistryTest, ASizeThatNoValueHasIsAFailedRead) {
     Bytes bytes;
-    EXPECT_EQ(operations.GetStringValue(kUser, "Key", "Name"), "");
-    EXPECT_FALSE(operations.GetBinaryValue(kUser, "Key", "Name", bytes, true));
+    EXPECT_EQ(operations.GetStringValue(User, "Key", "Name"), "");
+    EXPECT_FALSE(operations.GetBinaryValue(User, "Key", "Name", bytes, true));
 }
 
 // ---- GetStringValue
 
 TEST_F(modRegistryReadTest, GetStringValueAsksForTheSizeAndThenForTheText) {
-    machine.SetValue(kUser, key, "Name", "text");
-    EXPECT_EQ(registry.GetStringValue(kUser, key, "Name"), "text");
+    machine.SetValue(User, key, "Name", "text");
+    EXPECT_EQ(registry.GetStringValue(User, key, "Name"), "text");
     EXPECT_EQ(Calls(),
               (Strings{"RegOpenKeyA", "RegQueryValueExA", "RegQueryValueExA", "RegCloseKey"}));
 }
 
 TEST_F(modRegistryReadTest, GetStringValueOfAMissingKeyOrValueIsEmptyWithoutAMessage) {
-    EXPECT_EQ(registry.GetStringValue(kUser, key, "Name"), "");
-    machine.AddKey(kUser, key);
-    EXPECT_EQ(registry.GetStringValue(kUser, key, "Name"), "");
+    EXPECT_EQ(registry.GetStringValue(User, key, "Name"), "");
+    machine.AddKey(User, key);
+    EXPECT_EQ(registry.GetStringValue(User, key, "Name"), "");
     EXPECT_TRUE(desktop.messages.empty());
 }
 
 TEST_F(modRegistryReadTest, GetStringValueWithoutANameReadsTheDefaultValue) {
-    machine.SetValue(kUser, key, "", "default");
-    EXPECT_EQ(registry.GetStringValue(kUser, key, ""), "default");
+    machine.SetValue(User, key, "", "default");
+    EXPECT_EQ(registry.GetStringValue(User, key, ""), "default");
 }
 
 TEST_F(modRegistryReadTest, GetStringValueTakesAnyTypeAndEndsAtTheFirstNul) {
-    machine.SetDword(kUser, key, "Number", 0x00434241);
-    EXPECT_EQ(registry.GetStringValue(kUser, key, "Number"), "ABC");
-    machine.registry.SetRaw(kUser, key, "Bytes", registryType::Binary, {'a', 0xFF, 0, 'b'});
-    EXPECT_EQ(registry.GetStringValue(kUser, key, "Bytes"), "a\xFF");
-    machine.registry.SetRaw(kUser, key, "NoNul", registryType::Sz, {'a', 'b'});
-    EXPECT_EQ(registry.GetStringValue(kUser, key, "NoNul"), "ab");
-    machine.registry.SetRaw(kUser, key, "Empty", registryType::Sz, {});
-    EXPECT_EQ(registry.GetStringValue(kUser, key, "Empty"), "");
+    machine.SetDword(User, key, "Number", 0x00434241);
+    EXPECT_EQ(registry.GetStringValue(User, key, "Number"), "ABC");
+    machine.registry.SetRaw(User, key, "Bytes", registryType::Binary, {'a', 0xFF, 0, 'b'});
+    EXPECT_EQ(registry.GetStringValue(User, key, "Bytes"), "a\xFF");
+    machine.registry.SetRaw(User, key, "NoNul", registryType::Sz, {'a', 'b'});
+    EXPECT_EQ(registry.GetStringValue(User, key, "NoNul"), "ab");
+    machine.registry.SetRaw(User, key, "Empty", registryType::Sz, {});
+    EXPECT_EQ(registry.GetStringValue(User, key, "Empty"), "");
 }
 
 TEST_F(modRegistryReadTest, GetStringValueReadsLongTextsWhole) {
     const std::string text(1'000'000, 'x');
-    machine.SetValue(kUser, key, "Name", text);
-    EXPECT_EQ(registry.GetStringValue(kUser, key, "Name"), text);
+    machine.SetValue(User, key, "Name", text);
+    EXPECT_EQ(registry.GetStringValue(User, key, "Name"), text);
 }
 
 TEST_F(modRegistryReadTest, GetStringValueIsEmptyWhenTheReadFails) {
-    machine.SetValue(kUser, key, "Name", "text");
+    machine.SetValue(User, key, "Name", "text");
     machine.FailNext("RegOpenKeyA");
-    EXPECT_EQ(registry.GetStringValue(kUser, key, "Name"), "");
+    EXPECT_EQ(registry.GetStringValue(User, key, "Name"), "");
     machine.FailNext("RegQueryValueExA");
-    EXPECT_EQ(registry.GetStringValue(kUser, key, "Name"), "");
+    EXPECT_EQ(registry.GetStringValue(User, key, "Name"), "");
     machine.FailNext("RegQueryValueExA", error::Success);
     machine.FailNext("RegQueryValueExA");
-    EXPECT_EQ(registry.GetStringValue(kUser, key, "Name"), "");
+    EXPECT_EQ(registry.GetStringValue(User, key, "Name"), "");
     EXPECT_TRUE(desktop.messages.empty());
 }
 
 // ---- GetDwordValue
 
 TEST_F(modRegistryReadTest, GetDwordValueReadsANumber) {
-    machine.SetDword(kUser, key, "Name", 0xFFFFFFFE);
+    machine.SetDword(User, key, "Name", 0xFFFFFFFE);
     bool missing = false;
-    EXPECT_EQ(registry.GetDwordValue(kUser, key, "Name", missing), -2);
+    EXPECT_EQ(registry.GetDwordValue(User, key, "Name", missing), -2);
     EXPECT_FALSE(missing);
     EXPECT_EQ(Calls(), (Strings{"RegOpenKeyExA", "RegQueryValueExA", "RegCloseKey"}));
 }
 
 TEST_F(modRegistryReadTest, GetDwordValueOfAMissingValueIsMissing) {
-    machine.AddKey(kUser, key);
+    machine.AddKey(User, key);
     bool missing = false;
-    EXPECT_EQ(registry.GetDwordValue(kUser, key, "Name", missing), 0);
+    EXPECT_EQ(registry.GetDwordValue(User, key, "Name", missing), 0);
     EXPECT_TRUE(missing);
 }
 
 TEST_F(modRegistryReadTest, GetDwordValueOfAMissingKeyDoesntTouchMissing) {
     for (const bool before : {false, true}) {
         bool missing = before;
-        EXPECT_EQ(registry.GetDwordValue(kUser, key, "Name", missing), 0);
+        EXPECT_EQ(registry.GetDwordValue(User, key, "Name", missing), 0);
         EXPECT_EQ(missing, before);
     }
     EXPECT_TRUE(desktop.messages.empty());
@@ -382,22 +382,22 @@ TEST_F(modRegistryReadTest, GetDwordValueOfAMissingKeyDoesntTouchMissing) {
 
 TEST_F(modRegistryReadTest, GetDwordValueReadsFourBytesOfAnyType) {
     bool missing = false;
-    machine.registry.SetRaw(kUser, key, "Short", registryType::Binary, {1, 2});
-    EXPECT_EQ(registry.GetDwordValue(kUser, key, "Short", missing), 0x0201);
-    machine.registry.SetRaw(kUser, key, "Empty", registryType::Dword, {});
-    EXPECT_EQ(registry.GetDwordValue(kUser, key, "Empty", missing), 0);
+    machine.registry.SetRaw(User, key, "Short", registryType::Binary, {1, 2});
+    EXPECT_EQ(registry.GetDwordValue(User, key, "Short", missing), 0x0201);
+    machine.registry.SetRaw(User, key, "Empty", registryType::Dword, {});
+    EXPECT_EQ(registry.GetDwordValue(User, key, "Empty", missing), 0);
     EXPECT_FALSE(missing);
-    machine.registry.SetRaw(kUser, key, "Long", registryType::Dword, {1, 2, 3, 4, 5});
-    EXPECT_EQ(registry.GetDwordValue(kUser, key, "Long", missing), 0);
+    machine.registry.SetRaw(User, key, "Long", registryType::Dword, {1, 2, 3, 4, 5});
+    EXPECT_EQ(registry.GetDwordValue(User, key, "Long", missing), 0);
     EXPECT_TRUE(missing);
 }
 
 // ---- GetBinaryValue
 
 TEST_F(modRegistryReadTest, GetBinaryValueReadsTheBytesByTwoQueries) {
-    machine.registry.SetRaw(kUser, key, "Name", registryType::Binary, {1, 2, 3});
+    machine.registry.SetRaw(User, key, "Name", registryType::Binary, {1, 2, 3});
     Bytes bytes;
-    EXPECT_TRUE(registry.GetBinaryValue(kUser, key, "Name", bytes, false));
+    EXPECT_TRUE(registry.GetBinaryValue(User, key, "Name", bytes, false));
     EXPECT_EQ(bytes, (Bytes{1, 2, 3}));
     EXPECT_EQ(Calls(),
               (Strings{"RegOpenKeyExA", "RegQueryValueExA", "RegQueryValueExA", "RegCloseKey"}));
@@ -406,17 +406,17 @@ TEST_F(modRegistryReadTest, GetBinaryValueReadsTheBytesByTwoQueries) {
 TEST_F(modRegistryReadTest, GetBinaryValueOfOneByteOrNoneGivesFalse) {
     for (const Bytes& data : {Bytes{0}, Bytes{7}, Bytes{}}) {
         for (const bool expect552 : {false, true}) {
-            machine.registry.SetRaw(kUser, key, "Name", registryType::Binary, data);
+            machine.registry.SetRaw(User, key, "Name", registryType::Binary, data);
             Bytes bytes;
-            EXPECT_FALSE(registry.GetBinaryValue(kUser, key, "Name", bytes, expect552));
+            EXPECT_FALSE(registry.GetBinaryValue(User, key, "Name", bytes, expect552));
         }
     }
 }
 
 TEST_F(modRegistryReadTest, GetBinaryValueOfTwoBytesGivesTrueAlsoWhere552AreExpected) {
-    machine.registry.SetRaw(kUser, key, "Name", registryType::Binary, {0, 0});
+    machine.registry.SetRaw(User, key, "Name", registryType::Binary, {0, 0});
     Bytes bytes;
-    EXPECT_TRUE(registry.GetBinaryValue(kUser, key, "Name", bytes, true));
+    EXPECT_TRUE(registry.GetBinaryValue(User, key, "Name", bytes, true));
     EXPECT_EQ(bytes, (Bytes{0, 0}));
 }
 
@@ -436,34 +436,34 @@ TEST_F(modRegistryReadTest, GetBinaryValueGivesTrueFor552BytesThoughTheKeyDoesnt
                         real.windows, real.cryptography};
     modRegistry operations(parts, desktop, "Velkarix");
     Bytes bytes;
-    refusing.SetRaw(kUser, key, "Name", registryType::Binary, Bytes(552, 1));
-    EXPECT_TRUE(operations.GetBinaryValue(kUser, key, "Name", bytes, true));
-    EXPECT_FALSE(operations.GetBinaryValue(kUser, key, "Name", bytes, false));
-    refusing.SetRaw(kUser, key, "Name", registryType::Binary, Bytes(551, 1));
-    EXPECT_FALSE(operations.GetBinaryValue(kUser, key, "Name", bytes, true));
+    refusing.SetRaw(User, key, "Name", registryType::Binary, Bytes(552, 1));
+    EXPECT_TRUE(operations.GetBinaryValue(User, key, "Name", bytes, true));
+    EXPECT_FALSE(operations.GetBinaryValue(User, key, "Name", bytes, false));
+    refusing.SetRaw(User, key, "Name", registryType::Binary, Bytes(551, 1));
+    EXPECT_FALSE(operations.GetBinaryValue(User, key, "Name", bytes, true));
 }
 
 TEST_F(modRegistryReadTest, GetBinaryValueOfAMissingKeyOrValueGivesFalse) {
     Bytes bytes = {1, 2};
-    EXPECT_FALSE(registry.GetBinaryValue(kUser, key, "Name", bytes, false));
-    machine.AddKey(kUser, key);
-    EXPECT_FALSE(registry.GetBinaryValue(kUser, key, "Name", bytes, false));
+    EXPECT_FALSE(registry.GetBinaryValue(User, key, "Name", bytes, false));
+    machine.AddKey(User, key);
+    EXPECT_FALSE(registry.GetBinaryValue(User, key, "Name", bytes, false));
     EXPECT_TRUE(desktop.messages.empty());
 }
 
 TEST_F(modRegistryReadTest, ReadingNeedsNoMoreThanTheRightToRead) {
-    machine.SetValue(kUser, key, "Name", "text");
-    machine.AddKey(kUser, key + "\\Sub");
-    machine.registry.Restrict(kUser, key, KeyAccess::Read);
+    machine.SetValue(User, key, "Name", "text");
+    machine.AddKey(User, key + "\\Sub");
+    machine.registry.Restrict(User, key, KeyAccess::Read);
     Strings names;
     Bytes bytes;
     bool missing = false;
-    registry.EnumSubKeys(kUser, key, names);
+    registry.EnumSubKeys(User, key, names);
     EXPECT_EQ(names, (Strings{"Sub"}));
-    EXPECT_EQ(registry.EnumValues(kUser, key).size(), 1u);
-    EXPECT_EQ(registry.GetStringValue(kUser, key, "Name"), "text");
-    EXPECT_TRUE(registry.GetBinaryValue(kUser, key, "Name", bytes, false));
-    registry.GetDwordValue(kUser, key, "Other", missing);
+    EXPECT_EQ(registry.EnumValues(User, key).size(), 1u);
+    EXPECT_EQ(registry.GetStringValue(User, key, "Name"), "text");
+    EXPECT_TRUE(registry.GetBinaryValue(User, key, "Name", bytes, false));
+    registry.GetDwordValue(User, key, "Other", missing);
     EXPECT_TRUE(missing);
 }
 

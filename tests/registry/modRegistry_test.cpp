@@ -9,29 +9,29 @@ namespace {
 
 class modRegistryTest : public RegistryFixture {};
 
-const Strings kWriteCalls = {"RegCreateKeyA", "RegSetValueExA", "RegCloseKey"};
+const Strings WriteCalls = {"RegCreateKeyA", "RegSetValueExA", "RegCloseKey"};
 
 // ---- Writing
 
 TEST_F(modRegistryTest, SetStringValueWritesTheTextWithItsNul) {
-    EXPECT_TRUE(registry.SetStringValue(kUser, key, "Name", "text"));
-    EXPECT_EQ(machine.registry.ValueAt(kUser, key, "Name"),
+    EXPECT_TRUE(registry.SetStringValue(User, key, "Name", "text"));
+    EXPECT_EQ(machine.registry.ValueAt(User, key, "Name"),
               (MemoryValue{"Name", registryType::Sz, {'t', 'e', 'x', 't', 0}}));
-    EXPECT_EQ(Calls(), kWriteCalls);
+    EXPECT_EQ(Calls(), WriteCalls);
 }
 
 TEST_F(modRegistryTest, SetStringValueWritesAnEmptyTextAsOneNul) {
-    EXPECT_TRUE(registry.SetStringValue(kUser, key, "", ""));
-    EXPECT_EQ(machine.registry.ValueAt(kUser, key, "")->data, Bytes{0});
+    EXPECT_TRUE(registry.SetStringValue(User, key, "", ""));
+    EXPECT_EQ(machine.registry.ValueAt(User, key, "")->data, Bytes{0});
 }
 
 TEST_F(modRegistryTest, SetStringValueKeepsBytesOfTheCodePagesUpperHalf) {
-    EXPECT_TRUE(registry.SetStringValue(kUser, key,
+    EXPECT_TRUE(registry.SetStringValue(User, key,
                                         "\xDC"
                                         "ber",
                                         "\xE4\xF6\xFC"));
     EXPECT_EQ(machine.registry
-                  .ValueAt(kUser, key,
+                  .ValueAt(User, key,
                            "\xDC"
                            "ber")
                   ->data,
@@ -39,66 +39,66 @@ TEST_F(modRegistryTest, SetStringValueKeepsBytesOfTheCodePagesUpperHalf) {
 }
 
 TEST_F(modRegistryTest, SetBinaryValueWritesTheBytes) {
-    EXPECT_TRUE(registry.SetBinaryValue(kUser, key, "Name", {1, 0, 255}, false));
-    EXPECT_EQ(machine.registry.ValueAt(kUser, key, "Name"),
+    EXPECT_TRUE(registry.SetBinaryValue(User, key, "Name", {1, 0, 255}, false));
+    EXPECT_EQ(machine.registry.ValueAt(User, key, "Name"),
               (MemoryValue{"Name", registryType::Binary, {1, 0, 255}}));
-    EXPECT_EQ(Calls(), kWriteCalls);
+    EXPECT_EQ(Calls(), WriteCalls);
 }
 
 TEST_F(modRegistryTest, SetBinaryValueWritesAsManyZerosWhenAsked) {
-    EXPECT_TRUE(registry.SetBinaryValue(kUser, key, "Name", {7, 8}, true));
-    EXPECT_EQ(machine.registry.ValueAt(kUser, key, "Name")->data, (Bytes{0, 0}));
+    EXPECT_TRUE(registry.SetBinaryValue(User, key, "Name", {7, 8}, true));
+    EXPECT_EQ(machine.registry.ValueAt(User, key, "Name")->data, (Bytes{0, 0}));
 }
 
 TEST_F(modRegistryTest, SetDwordValueWritesFourBytesTheLowestFirst) {
-    EXPECT_TRUE(registry.SetDwordValue(kUser, key, "Name", 0x01020304));
-    EXPECT_EQ(machine.registry.ValueAt(kUser, key, "Name"),
+    EXPECT_TRUE(registry.SetDwordValue(User, key, "Name", 0x01020304));
+    EXPECT_EQ(machine.registry.ValueAt(User, key, "Name"),
               (MemoryValue{"Name", registryType::Dword, {4, 3, 2, 1}}));
-    EXPECT_TRUE(registry.SetDwordValue(kUser, key, "Name", -2));
-    EXPECT_EQ(machine.registry.ValueAt(kUser, key, "Name")->data, (Bytes{0xFE, 0xFF, 0xFF, 0xFF}));
+    EXPECT_TRUE(registry.SetDwordValue(User, key, "Name", -2));
+    EXPECT_EQ(machine.registry.ValueAt(User, key, "Name")->data, (Bytes{0xFE, 0xFF, 0xFF, 0xFF}));
     EXPECT_EQ(machine.Journal().CountOf("RegSetValueExA"), 2u);
 }
 
 TEST_F(modRegistryTest, CreateKeyMakesAllLevelsAndClosesTheKey) {
-    EXPECT_TRUE(registry.CreateKey(kUser, "Software\\A\\B\\C"));
-    EXPECT_TRUE(machine.registry.HasKey(kUser, "Software\\A\\B\\C"));
+    EXPECT_TRUE(registry.CreateKey(User, "Software\\A\\B\\C"));
+    EXPECT_TRUE(machine.registry.HasKey(User, "Software\\A\\B\\C"));
     EXPECT_EQ(Calls(), (Strings{"RegCreateKeyA", "RegCloseKey"}));
 }
 
 TEST_F(modRegistryTest, ARefusedWriteStillGivesTrueWithoutAMessage) {
     for (int i = 0; i < 3; ++i) machine.FailNext("RegSetValueExA");
-    EXPECT_TRUE(registry.SetStringValue(kUser, key, "Name", "text"));
-    EXPECT_TRUE(registry.SetBinaryValue(kUser, key, "Name", {1}, false));
-    EXPECT_TRUE(registry.SetDwordValue(kUser, key, "Name", 1));
-    EXPECT_FALSE(machine.registry.ValueAt(kUser, key, "Name"));
+    EXPECT_TRUE(registry.SetStringValue(User, key, "Name", "text"));
+    EXPECT_TRUE(registry.SetBinaryValue(User, key, "Name", {1}, false));
+    EXPECT_TRUE(registry.SetDwordValue(User, key, "Name", 1));
+    EXPECT_FALSE(machine.registry.ValueAt(User, key, "Name"));
     EXPECT_TRUE(desktop.messages.empty());
 }
 
-const std::string kNotCreated =
+const std::string NotCreated =
     "Following Key Could not be created: \r\nSoftware\\Example\r\nAccess is denied.\r\n";
 
 TEST_F(modRegistryTest, SetStringValueTellsThatTheKeyCantBeCreated) {
     machine.FailNext("RegCreateKeyA");
-    EXPECT_FALSE(registry.SetStringValue(kUser, key, "Name", "text"));
-    EXPECT_EQ(OnlyMessage(), kNotCreated);
+    EXPECT_FALSE(registry.SetStringValue(User, key, "Name", "text"));
+    EXPECT_EQ(OnlyMessage(), NotCreated);
     EXPECT_EQ(Calls(), (Strings{"RegCreateKeyA", "FormatMessageA"}));
 }
 
 TEST_F(modRegistryTest, SetBinaryValueTellsThatTheKeyCantBeCreated) {
     machine.FailNext("RegCreateKeyA");
-    EXPECT_FALSE(registry.SetBinaryValue(kUser, key, "Name", {1}, false));
-    EXPECT_EQ(OnlyMessage(), kNotCreated);
+    EXPECT_FALSE(registry.SetBinaryValue(User, key, "Name", {1}, false));
+    EXPECT_EQ(OnlyMessage(), NotCreated);
 }
 
 TEST_F(modRegistryTest, CreateKeyTellsThatTheKeyCantBeCreated) {
     machine.FailNext("RegCreateKeyA");
-    EXPECT_FALSE(registry.CreateKey(kUser, key));
-    EXPECT_EQ(OnlyMessage(), kNotCreated);
+    EXPECT_FALSE(registry.CreateKey(User, key));
+    EXPECT_EQ(OnlyMessage(), NotCreated);
 }
 
 TEST_F(modRegistryTest, SetDwordValueFailsWithoutAMessage) {
     machine.FailNext("RegCreateKeyA");
-    EXPECT_FALSE(registry.SetDwordValue(kUser, key, "Name", 1));
+    EXPECT_FALSE(registry.SetDwordValue(User, key, "Name", 1));
     EXPECT_TRUE(desktop.messages.empty());
     EXPECT_EQ(Calls(), (Strings{"RegCreateKeyA"}));
 }
@@ -106,75 +106,75 @@ TEST_F(modRegistryTest, SetDwordValueFailsWithoutAMessage) {
 // ---- Deleting
 
 TEST_F(modRegistryTest, DeleteKeyIsOneCall) {
-    machine.AddKey(kUser, key);
-    EXPECT_TRUE(registry.DeleteKey(kUser, key, false));
-    EXPECT_FALSE(machine.registry.HasKey(kUser, key));
+    machine.AddKey(User, key);
+    EXPECT_TRUE(registry.DeleteKey(User, key, false));
+    EXPECT_FALSE(machine.registry.HasKey(User, key));
     EXPECT_EQ(Calls(), (Strings{"RegDeleteKeyA"}));
     EXPECT_TRUE(desktop.messages.empty());
 }
 
 TEST_F(modRegistryTest, DeleteKeyLeavesItToTheSystemWhatBecomesOfSubkeys) {
-    machine.AddKey(kUser, key + "\\Sub");
-    EXPECT_FALSE(registry.DeleteKey(kUser, key, true));
-    EXPECT_TRUE(machine.registry.HasKey(kUser, key + "\\Sub"));
+    machine.AddKey(User, key + "\\Sub");
+    EXPECT_FALSE(registry.DeleteKey(User, key, true));
+    EXPECT_TRUE(machine.registry.HasKey(User, key + "\\Sub"));
     machine.SetFamily(Family::Windows95);
-    EXPECT_TRUE(registry.DeleteKey(kUser, key, true));
-    EXPECT_FALSE(machine.registry.HasKey(kUser, key));
+    EXPECT_TRUE(registry.DeleteKey(User, key, true));
+    EXPECT_FALSE(machine.registry.HasKey(User, key));
 }
 
 TEST_F(modRegistryTest, DeleteKeyTellsWhyItFailed) {
-    EXPECT_FALSE(registry.DeleteKey(kUser, key, false));
+    EXPECT_FALSE(registry.DeleteKey(User, key, false));
     EXPECT_EQ(OnlyMessage(),
               "Following Key Could not be deleted: \r\nSoftware\\Example\r\n\r\n"
               "The system cannot find the file specified.\r\n");
 }
 
 TEST_F(modRegistryTest, DeleteKeyFailsInSilenceWhenQuiet) {
-    EXPECT_FALSE(registry.DeleteKey(kUser, key, true));
+    EXPECT_FALSE(registry.DeleteKey(User, key, true));
     EXPECT_TRUE(desktop.messages.empty());
 }
 
 TEST_F(modRegistryTest, DeleteValueOpensTheKeyAndDeletesTheValue) {
-    machine.SetValue(kUser, key, "Name", "text");
-    machine.SetValue(kUser, key, "Other", "text");
-    EXPECT_TRUE(registry.DeleteValue(kUser, key, "name", false));
-    EXPECT_EQ(machine.registry.ValueNamesOf(kUser, key), (Strings{"Other"}));
+    machine.SetValue(User, key, "Name", "text");
+    machine.SetValue(User, key, "Other", "text");
+    EXPECT_TRUE(registry.DeleteValue(User, key, "name", false));
+    EXPECT_EQ(machine.registry.ValueNamesOf(User, key), (Strings{"Other"}));
     EXPECT_EQ(Calls(), (Strings{"RegOpenKeyExA", "RegDeleteValueA", "RegCloseKey"}));
     EXPECT_TRUE(desktop.messages.empty());
 }
 
 TEST_F(modRegistryTest, DeleteValueNeedsAllRights) {
-    machine.SetValue(kUser, key, "Name", "text");
-    machine.registry.Restrict(kUser, key, KeyAccess::Write);
-    EXPECT_FALSE(registry.DeleteValue(kUser, key, "Name", true));
+    machine.SetValue(User, key, "Name", "text");
+    machine.registry.Restrict(User, key, KeyAccess::Write);
+    EXPECT_FALSE(registry.DeleteValue(User, key, "Name", true));
 }
 
 TEST_F(modRegistryTest, DeleteValueTellsThatTheKeyCantBeOpened) {
-    EXPECT_FALSE(registry.DeleteValue(kUser, key, "Name", false));
+    EXPECT_FALSE(registry.DeleteValue(User, key, "Name", false));
     EXPECT_EQ(OnlyMessage(),
               "Following Key Value Could not be opened: \r\nSoftware\\Example\r\n\r\nName\r\n"
               "The system cannot find the file specified.\r\n");
 }
 
 TEST_F(modRegistryTest, DeleteValueTellsThatTheValueCantBeDeleted) {
-    machine.SetValue(kUser, key, "Name", "text");
+    machine.SetValue(User, key, "Name", "text");
     machine.FailNext("RegDeleteValueA");
-    EXPECT_FALSE(registry.DeleteValue(kUser, key, "Name", false));
+    EXPECT_FALSE(registry.DeleteValue(User, key, "Name", false));
     EXPECT_EQ(OnlyMessage(),
               "Following Key Value Could not be deleted: \r\nSoftware\\Example\r\n\r\nName\r\n"
               "Access is denied.\r\n");
 }
 
 TEST_F(modRegistryTest, DeleteValueFailsInSilenceWhenQuiet) {
-    EXPECT_FALSE(registry.DeleteValue(kUser, key, "Name", true));
-    machine.AddKey(kUser, key);
-    EXPECT_FALSE(registry.DeleteValue(kUser, key, "Name", true));
+    EXPECT_FALSE(registry.DeleteValue(User, key, "Name", true));
+    machine.AddKey(User, key);
+    EXPECT_FALSE(registry.DeleteValue(User, key, "Name", true));
     EXPECT_TRUE(desktop.messages.empty());
 }
 
 TEST_F(modRegistryTest, ACodeThatTheSystemHasNoTextForIsToldWithoutOne) {
     machine.FailNext("RegDeleteKeyA", 54321);
-    EXPECT_FALSE(registry.DeleteKey(kUser, key, false));
+    EXPECT_FALSE(registry.DeleteKey(User, key, false));
     EXPECT_EQ(OnlyMessage(), "Following Key Could not be deleted: \r\nSoftware\\Example\r\n\r\n");
     EXPECT_EQ(registry.GetSystemErrorText(54321), "");
 }
@@ -187,28 +187,28 @@ TEST_F(modRegistryTest, GetSystemErrorTextKeepsTheLineBreakAtItsEnd) {
 
 TEST_F(modRegistryTest, DeleteSubKeysRemovesTheTreeBelowAndKeepsTheKey) {
     for (const char* path : {"\\A\\1", "\\A\\2\\x", "\\B", "\\C\\1\\2\\3"}) {
-        machine.AddKey(kUser, key + path);
+        machine.AddKey(User, key + path);
     }
-    machine.SetValue(kUser, key, "Name", "text");
-    machine.SetValue(kUser, key + "\\A", "Name", "text");
-    EXPECT_TRUE(registry.DeleteSubKeys(kUser, key));
-    EXPECT_TRUE(machine.registry.SubKeysOf(kUser, key).empty());
-    EXPECT_EQ(machine.registry.TextAt(kUser, key, "Name"), "text");
+    machine.SetValue(User, key, "Name", "text");
+    machine.SetValue(User, key + "\\A", "Name", "text");
+    EXPECT_TRUE(registry.DeleteSubKeys(User, key));
+    EXPECT_TRUE(machine.registry.SubKeysOf(User, key).empty());
+    EXPECT_EQ(machine.registry.TextAt(User, key, "Name"), "text");
     EXPECT_TRUE(desktop.messages.empty());
 }
 
 TEST_F(modRegistryTest, DeleteSubKeysOfAKeyWithoutAnyChangesNothing) {
-    machine.SetValue(kUser, key, "Name", "text");
-    const std::string before = machine.registry.TreeText(kUser, "Software");
-    EXPECT_TRUE(registry.DeleteSubKeys(kUser, key));
-    EXPECT_EQ(machine.registry.TreeText(kUser, "Software"), before);
+    machine.SetValue(User, key, "Name", "text");
+    const std::string before = machine.registry.TreeText(User, "Software");
+    EXPECT_TRUE(registry.DeleteSubKeys(User, key));
+    EXPECT_EQ(machine.registry.TreeText(User, "Software"), before);
     EXPECT_EQ(Calls(), (Strings{"RegOpenKeyExA", "RegEnumKeyA", "RegCloseKey"}));
 }
 
 TEST_F(modRegistryTest, DeleteSubKeysCollectsTheNamesBeforeItDeletes) {
-    machine.AddKey(kUser, key + "\\A");
-    machine.AddKey(kUser, key + "\\B");
-    EXPECT_TRUE(registry.DeleteSubKeys(kUser, key));
+    machine.AddKey(User, key + "\\A");
+    machine.AddKey(User, key + "\\B");
+    EXPECT_TRUE(registry.DeleteSubKeys(User, key));
     EXPECT_EQ(Calls(), (Strings{"RegOpenKeyExA", "RegEnumKeyA", "RegEnumKeyA", "RegEnumKeyA",
                                 "RegOpenKeyExA", "RegEnumKeyA", "RegCloseKey", "RegDeleteKeyA",
                                 "RegOpenKeyExA", "RegEnumKeyA", "RegCloseKey", "RegDeleteKeyA",
@@ -221,47 +221,47 @@ TEST_F(modRegistryTest, DeleteSubKeysCollectsTheNamesBeforeItDeletes) {
 }
 
 TEST_F(modRegistryTest, DeleteSubKeysServesEventsInEachRound) {
-    machine.AddKey(kUser, key + "\\A");
-    machine.AddKey(kUser, key + "\\B");
+    machine.AddKey(User, key + "\\A");
+    machine.AddKey(User, key + "\\B");
     std::vector<std::size_t> namesReadBefore;
     desktop.onYield = [&] { namesReadBefore.push_back(machine.Journal().CountOf("RegEnumKeyA")); };
-    EXPECT_TRUE(registry.DeleteSubKeys(kUser, key));
+    EXPECT_TRUE(registry.DeleteSubKeys(User, key));
     EXPECT_EQ(namesReadBefore, (std::vector<std::size_t>{0, 1, 2, 3, 4}));
 }
 
 TEST_F(modRegistryTest, DeleteSubKeysBearsThatAnEventTakesTheKeysAway) {
-    machine.AddKey(kUser, key + "\\A");
-    machine.AddKey(kUser, key + "\\B");
+    machine.AddKey(User, key + "\\A");
+    machine.AddKey(User, key + "\\B");
     desktop.onYield = [&] {
-        if (desktop.yields == 3) machine.registry.RemoveKey(kUser, key);
+        if (desktop.yields == 3) machine.registry.RemoveKey(User, key);
     };
-    EXPECT_TRUE(registry.DeleteSubKeys(kUser, key));
-    EXPECT_FALSE(machine.registry.HasKey(kUser, key));
+    EXPECT_TRUE(registry.DeleteSubKeys(User, key));
+    EXPECT_FALSE(machine.registry.HasKey(User, key));
 }
 
 TEST_F(modRegistryTest, DeleteSubKeysOfAKeyThatCantBeOpenedGivesFalse) {
-    EXPECT_FALSE(registry.DeleteSubKeys(kUser, key));
-    machine.AddKey(kUser, key + "\\A");
-    machine.registry.Restrict(kUser, key, KeyAccess::Read);
-    EXPECT_FALSE(registry.DeleteSubKeys(kUser, key));
-    EXPECT_TRUE(machine.registry.HasKey(kUser, key + "\\A"));
+    EXPECT_FALSE(registry.DeleteSubKeys(User, key));
+    machine.AddKey(User, key + "\\A");
+    machine.registry.Restrict(User, key, KeyAccess::Read);
+    EXPECT_FALSE(registry.DeleteSubKeys(User, key));
+    EXPECT_TRUE(machine.registry.HasKey(User, key + "\\A"));
     EXPECT_TRUE(desktop.messages.empty());
 }
 
 TEST_F(modRegistryTest, DeleteSubKeysGoesOnPastWhatItCantDelete) {
-    machine.AddKey(kUser, key + "\\A");
-    machine.AddKey(kUser, key + "\\B");
-    machine.AddKey(kUser, key + "\\C");
-    machine.registry.Restrict(kUser, key + "\\B", KeyAccess::Read);
-    EXPECT_TRUE(registry.DeleteSubKeys(kUser, key));
-    EXPECT_EQ(machine.registry.SubKeysOf(kUser, key), (Strings{"B"}));
+    machine.AddKey(User, key + "\\A");
+    machine.AddKey(User, key + "\\B");
+    machine.AddKey(User, key + "\\C");
+    machine.registry.Restrict(User, key + "\\B", KeyAccess::Read);
+    EXPECT_TRUE(registry.DeleteSubKeys(User, key));
+    EXPECT_EQ(machine.registry.SubKeysOf(User, key), (Strings{"B"}));
     EXPECT_TRUE(desktop.messages.empty());
 }
 
 TEST_F(modRegistryTest, DeleteSubKeysTakesNamesOf255Bytes) {
-    machine.AddKey(kUser, key + "\\" + std::string(255, 'x'));
-    EXPECT_TRUE(registry.DeleteSubKeys(kUser, key));
-    EXPECT_TRUE(machine.registry.SubKeysOf(kUser, key).empty());
+    machine.AddKey(User, key + "\\" + std::string(255, 'x'));
+    EXPECT_TRUE(registry.DeleteSubKeys(User, key));
+    EXPECT_TRUE(machine.registry.SubKeysOf(User, key).empty());
 }
 
 TEST_F(modRegistryTest, DeleteSubKeysEndsWhenLinksLeadRoundInACircle) {
@@ -278,15 +278,15 @@ TEST_F(modRegistryTest, DeleteSubKeysEndsWhenLinksLeadRoundInACircle) {
             return index < 2 ? error::Success : error::NoMoreItems;
         }
     };
-    machine.AddKey(kUser, "Software");
+    machine.AddKey(User, "Software");
     CircularRegistry circular(machine.Journal());
-    circular.AddKey(kUser, "Software");
+    circular.AddKey(User, "Software");
     const Machine real = machine.Parts();
     const Machine parts{circular,     real.profileFiles, real.versionResources,
                         real.files,   real.clock,        real.processes,
                         real.token,   real.shell,        real.system,
                         real.windows, real.cryptography};
-    EXPECT_FALSE(modRegistry(parts, desktop, "Velkarix").DeleteSubKeys(kUser, "Software"));
+    EXPECT_FALSE(modRegistry(parts, desktop, "Velkarix").DeleteSubKeys(User, "Software"));
     EXPECT_EQ(circular.OpenKeyCount(), 0u);
     EXPECT_LT(machine.Journal().CountOf("RegOpenKeyExA"), 1000u);
 }
@@ -294,59 +294,59 @@ TEST_F(modRegistryTest, DeleteSubKeysEndsWhenLinksLeadRoundInACircle) {
 // ---- Copying
 
 TEST_F(modRegistryTest, CopyKeyMakesTheDestinationAndCopiesTheTree) {
-    machine.SetValue(kUser, "Source", "Name", "text");
-    machine.SetDword(kUser, "Source\\Sub", "Number", 7);
-    EXPECT_TRUE(registry.CopyKey(kUser, "Source", kUser, "Target"));
-    EXPECT_EQ(machine.registry.TextAt(kUser, "Target", "Name"), "text");
-    EXPECT_EQ(machine.registry.ValueAt(kUser, "Target\\Sub", "Number")->data, (Bytes{7, 0, 0, 0}));
+    machine.SetValue(User, "Source", "Name", "text");
+    machine.SetDword(User, "Source\\Sub", "Number", 7);
+    EXPECT_TRUE(registry.CopyKey(User, "Source", User, "Target"));
+    EXPECT_EQ(machine.registry.TextAt(User, "Target", "Name"), "text");
+    EXPECT_EQ(machine.registry.ValueAt(User, "Target\\Sub", "Number")->data, (Bytes{7, 0, 0, 0}));
     EXPECT_EQ(Calls(), (Strings{"RegCreateKeyA", "RegCloseKey", "RegOpenKeyExA", "SHCopyKeyA",
                                 "RegCloseKey"}));
 }
 
 TEST_F(modRegistryTest, CopyKeyOpensTheDestinationInTheHiveOfTheSource) {
-    machine.SetValue(kUser, "Source", "Name", "text");
-    EXPECT_FALSE(registry.CopyKey(kUser, "Source", kMachine, "Target"));
-    EXPECT_TRUE(machine.registry.HasKey(kMachine, "Target"));
-    EXPECT_FALSE(machine.registry.HasKey(kUser, "Target"));
+    machine.SetValue(User, "Source", "Name", "text");
+    EXPECT_FALSE(registry.CopyKey(User, "Source", MachineHive, "Target"));
+    EXPECT_TRUE(machine.registry.HasKey(MachineHive, "Target"));
+    EXPECT_FALSE(machine.registry.HasKey(User, "Target"));
 
-    machine.AddKey(kUser, "Target");
-    EXPECT_TRUE(registry.CopyKey(kUser, "Source", kMachine, "Target"));
-    EXPECT_EQ(machine.registry.TextAt(kUser, "Target", "Name"), "text");
-    EXPECT_FALSE(machine.registry.ValueAt(kMachine, "Target", "Name"));
+    machine.AddKey(User, "Target");
+    EXPECT_TRUE(registry.CopyKey(User, "Source", MachineHive, "Target"));
+    EXPECT_EQ(machine.registry.TextAt(User, "Target", "Name"), "text");
+    EXPECT_FALSE(machine.registry.ValueAt(MachineHive, "Target", "Name"));
 }
 
 TEST_F(modRegistryTest, CopyKeyOfAMissingSourceGivesFalse) {
-    EXPECT_FALSE(registry.CopyKey(kUser, "Source", kUser, "Target"));
+    EXPECT_FALSE(registry.CopyKey(User, "Source", User, "Target"));
     EXPECT_TRUE(desktop.messages.empty());
 }
 
 TEST_F(modRegistryTest, CopyKeyTellsThatTheDestinationCantBeCreated) {
-    machine.AddKey(kUser, "Source");
+    machine.AddKey(User, "Source");
     machine.FailNext("RegCreateKeyA");
-    EXPECT_FALSE(registry.CopyKey(kUser, "Source", kUser, key));
-    EXPECT_EQ(OnlyMessage(), kNotCreated);
+    EXPECT_FALSE(registry.CopyKey(User, "Source", User, key));
+    EXPECT_EQ(OnlyMessage(), NotCreated);
 }
 
 TEST_F(modRegistryTest, CopyKeyFailsInSilenceWhenTheCopyFails) {
-    machine.AddKey(kUser, "Source");
+    machine.AddKey(User, "Source");
     machine.FailNext("SHCopyKeyA");
-    EXPECT_FALSE(registry.CopyKey(kUser, "Source", kUser, "Target"));
+    EXPECT_FALSE(registry.CopyKey(User, "Source", User, "Target"));
     EXPECT_TRUE(desktop.messages.empty());
 }
 
 TEST_F(modRegistryTest, CopyKeyNeedsToWriteInTheDestination) {
-    machine.AddKey(kUser, "Source");
-    machine.registry.Restrict(kUser, "Target", KeyAccess::Read);
-    EXPECT_FALSE(registry.CopyKey(kUser, "Source", kUser, "Target"));
+    machine.AddKey(User, "Source");
+    machine.registry.Restrict(User, "Target", KeyAccess::Read);
+    EXPECT_FALSE(registry.CopyKey(User, "Source", User, "Target"));
 }
 
 TEST_F(modRegistryTest, CopyKeyCopiesByItselfWhereTheShellLibraryHasNoCallForIt) {
     machine.registry.SetHasCopyKey(false);
-    machine.SetValue(kUser, "Source", "Name", "text");
-    machine.SetDword(kUser, "Source\\Sub", "Number", 7);
-    EXPECT_TRUE(registry.CopyKey(kUser, "Source", kUser, "Target"));
-    EXPECT_EQ(machine.registry.TextAt(kUser, "Target", "Name"), "text");
-    EXPECT_EQ(machine.registry.ValueAt(kUser, "Target\\Sub", "Number")->data, (Bytes{7, 0, 0, 0}));
+    machine.SetValue(User, "Source", "Name", "text");
+    machine.SetDword(User, "Source\\Sub", "Number", 7);
+    EXPECT_TRUE(registry.CopyKey(User, "Source", User, "Target"));
+    EXPECT_EQ(machine.registry.TextAt(User, "Target", "Name"), "text");
+    EXPECT_EQ(machine.registry.ValueAt(User, "Target\\Sub", "Number")->data, (Bytes{7, 0, 0, 0}));
 }
 
 }  // namespace

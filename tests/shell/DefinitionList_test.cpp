@@ -10,8 +10,8 @@
 namespace velkarix {
 namespace {
 
-const std::string kPath = "C:\\Velkarix\\SusProcess.vkl";
-constexpr std::size_t kBlock = 256 * 1024;
+const std::string Path = "C:\\Velkarix\\SusProcess.vkl";
+constexpr std::size_t Block = 256 * 1024;
 
 class DefinitionListTest : public testing::Test {
   protected:
@@ -22,8 +22,8 @@ class DefinitionListTest : public testing::Test {
         return std::string(loaded.Text());
     }
     void Load(DefinitionList& target, const std::string& content) {
-        machine.AddFile(kPath).Content(content);
-        LoadDefinitionList(machine.files, target, kPath);
+        machine.AddFile(Path).Content(content);
+        LoadDefinitionList(machine.files, target, Path);
     }
     void TearDown() override {
         EXPECT_EQ(machine.files.OpenFileCount(), 0u);
@@ -77,15 +77,15 @@ TEST_F(DefinitionListTest, AnEmptyFileLeavesTheListAsItIsAndIsNotRead) {
 }
 
 TEST_F(DefinitionListTest, AFolderOfThatNameIsNoFile) {
-    machine.AddFolder(kPath);
-    LoadDefinitionList(machine.files, list, kPath);
+    machine.AddFolder(Path);
+    LoadDefinitionList(machine.files, list, Path);
     EXPECT_EQ(list.Text(), "");
     EXPECT_EQ(machine.Journal().CountOf("CreateFileA"), 0u);
 }
 
 TEST_F(DefinitionListTest, OnlyFilesWithPlainAttributesAreFound) {
-    machine.AddFile(kPath).Content("one").Hidden();
-    LoadDefinitionList(machine.files, list, kPath);
+    machine.AddFile(Path).Content("one").Hidden();
+    LoadDefinitionList(machine.files, list, Path);
     EXPECT_EQ(list.Text(), "");
     const std::string readOnly = "C:\\Velkarix\\SusCLSID.vkl";
     machine.AddFile(readOnly).Content("one").ReadOnly();
@@ -103,16 +103,16 @@ TEST_F(DefinitionListTest, ASecondFileIsPutBehindTheFirst) {
 }
 
 TEST_F(DefinitionListTest, TheFileIsReadInBlocksAndNeverWhole) {
-    Load(list, std::string(4 * kBlock, 'x'));
-    EXPECT_EQ(list.Text().size(), 4 * kBlock + 1);
+    Load(list, std::string(4 * Block, 'x'));
+    EXPECT_EQ(list.Text().size(), 4 * Block + 1);
     for (const std::string& size : machine.Journal().ArgumentsOf("ReadFile")) {
-        EXPECT_LE(std::stoul(size), kBlock);
+        EXPECT_LE(std::stoul(size), Block);
     }
 }
 
 TEST_F(DefinitionListTest, LinesFoldTheSameWhereverABlockEnds) {
     for (const std::string end : {"\r\n", "\r", "\n", "\r\n\r\n"}) {
-        for (std::size_t before = kBlock - 40; before <= kBlock + 2; ++before) {
+        for (std::size_t before = Block - 40; before <= Block + 2; ++before) {
             const std::string line(before, 'x');
             const std::string blanks(end.size() == 4 ? 2 : 1, ' ');
             EXPECT_EQ(Folded(line + end + "y"), " " + line + blanks + "y") << before;
@@ -121,15 +121,15 @@ TEST_F(DefinitionListTest, LinesFoldTheSameWhereverABlockEnds) {
 }
 
 TEST_F(DefinitionListTest, AFileThatGrowsMeanwhileIsReadToItsEnd) {
-    const std::string content(kBlock + 7, 'x');
-    machine.AddFile(kPath).Content("x");
+    const std::string content(Block + 7, 'x');
+    machine.AddFile(Path).Content("x");
     struct GrowingFile : MemoryFileSystem {
         using MemoryFileSystem::MemoryFileSystem;
         std::optional<std::uint64_t> GetFileSize(FileHandle) override { return 1; }
     };
     GrowingFile files(machine.Journal(), machine.disk);
-    machine.AddFile(kPath).Content(content);
-    LoadDefinitionList(files, list, kPath);
+    machine.AddFile(Path).Content(content);
+    LoadDefinitionList(files, list, Path);
     EXPECT_EQ(list.Text(), " " + content);
 }
 
@@ -139,8 +139,8 @@ TEST_F(DefinitionListTest, ALengthThatNoFileHasDoesNoHarm) {
         std::optional<std::uint64_t> GetFileSize(FileHandle) override { return UINT64_MAX; }
     };
     LyingFile files(machine.Journal(), machine.disk);
-    machine.AddFile(kPath).Content("one\r\ntwo");
-    LoadDefinitionList(files, list, kPath);
+    machine.AddFile(Path).Content("one\r\ntwo");
+    LoadDefinitionList(files, list, Path);
     EXPECT_EQ(list.Text(), " one two");
 }
 
@@ -151,7 +151,7 @@ TEST_F(DefinitionListTest, AFileThatCantBeOpenedOrMeasuredLeavesTheListAsItIs) {
         machine.FailNext(call);
         EXPECT_EQ(Folded("one\r\ntwo\r\n"), "") << call;
     }
-    machine.AddFile(kPath).Unreadable();
+    machine.AddFile(Path).Unreadable();
     EXPECT_EQ(Folded("one"), "");
 }
 
@@ -167,8 +167,8 @@ TEST_F(DefinitionListTest, AFaultPartWayKeepsTheWholeLinesSoFar) {
     };
     FailingFile files(machine.Journal(), machine.disk);
     const std::string first(1000, 'a');
-    machine.AddFile(kPath).Content(first + "\r\n" + std::string(2 * kBlock, 'b'));
-    LoadDefinitionList(files, list, kPath);
+    machine.AddFile(Path).Content(first + "\r\n" + std::string(2 * Block, 'b'));
+    LoadDefinitionList(files, list, Path);
     EXPECT_EQ(list.Text(), " " + first);
     EXPECT_EQ(files.OpenFileCount(), 0u);
 
@@ -270,15 +270,15 @@ TEST_F(DefinitionListTest, AgreesWithAPlainSearchInItsText) {
 // A list of many digests that is made while it is read.
 struct GeneratedList : MemoryFileSystem {
     using MemoryFileSystem::MemoryFileSystem;
-    static constexpr std::size_t kEntries = 3'000'000;
-    static constexpr std::size_t kLineSize = 34;
+    static constexpr std::size_t EntryCount = 3'000'000;
+    static constexpr std::size_t LineSize = 34;
 
-    std::optional<std::uint64_t> GetFileSize(FileHandle) override { return kEntries * kLineSize; }
+    std::optional<std::uint64_t> GetFileSize(FileHandle) override { return EntryCount * LineSize; }
     ErrorCode ReadFile(FileHandle, std::span<std::uint8_t> buffer, std::uint32_t& read) override {
         read = 0;
-        for (; read < buffer.size() && position < kEntries * kLineSize; ++read, ++position) {
-            const std::size_t column = position % kLineSize;
-            if (column == 0) line = Entry(position / kLineSize) + "\r\n";
+        for (; read < buffer.size() && position < EntryCount * LineSize; ++read, ++position) {
+            const std::size_t column = position % LineSize;
+            if (column == 0) line = Entry(position / LineSize) + "\r\n";
             buffer[read] = static_cast<std::uint8_t>(line[column]);
         }
         return error::Success;
@@ -298,11 +298,11 @@ struct GeneratedList : MemoryFileSystem {
 };
 
 TEST_F(DefinitionListTest, AListOf100MegabytesIsFoundInFromItsFirstToItsLastEntry) {
-    constexpr std::size_t Entries = GeneratedList::kEntries;
+    constexpr std::size_t Entries = GeneratedList::EntryCount;
     const auto entry = GeneratedList::Entry;
     GeneratedList files(machine.Journal(), machine.disk);
-    machine.AddFile(kPath);
-    LoadDefinitionList(files, list, kPath);
+    machine.AddFile(Path);
+    LoadDefinitionList(files, list, Path);
     EXPECT_EQ(list.Text().size(), Entries * 33);
     for (std::size_t i = 0; i < Entries; i += 997) {
         ASSERT_TRUE(ListContains(list, entry(i))) << i;

@@ -26,12 +26,12 @@ class FilePathsTest : public testing::Test {
     MemoryMachine machine;
 };
 
-const std::string kTool = "C:\\Program Files\\Some Tool\\long name.exe";
+const std::string ToolPath = "C:\\Program Files\\Some Tool\\long name.exe";
 
 // ---- PathExists
 
 TEST_F(FilePathsTest, FilesAndFoldersExist) {
-    EXPECT_TRUE(PathExists(machine.files, kTool));
+    EXPECT_TRUE(PathExists(machine.files, ToolPath));
     EXPECT_TRUE(PathExists(machine.files, "C:\\Program Files"));
     EXPECT_FALSE(PathExists(machine.files, "C:\\missing"));
     EXPECT_EQ(machine.Journal().CountOf("GetFileAttributesA"), 0u);
@@ -39,7 +39,7 @@ TEST_F(FilePathsTest, FilesAndFoldersExist) {
 
 TEST_F(FilePathsTest, ExistenceIsToldByTheAttributesWhereTheShellLibraryHasNoCallForIt) {
     machine.files.SetHasPathFileExists(false);
-    EXPECT_TRUE(PathExists(machine.files, kTool));
+    EXPECT_TRUE(PathExists(machine.files, ToolPath));
     EXPECT_TRUE(PathExists(machine.files, "C:\\Program Files"));
     EXPECT_FALSE(PathExists(machine.files, "C:\\missing"));
 }
@@ -78,7 +78,7 @@ TEST_F(FilePathsTest, AnExpandedPathEndsAtItsNul) {
 // ---- GetLongPath
 
 TEST_F(FilePathsTest, ShortLevelsBecomeLong) {
-    EXPECT_EQ(Long("C:\\PROGRA~1\\SOMETO~1\\LONGNA~1.EXE"), kTool);
+    EXPECT_EQ(Long("C:\\PROGRA~1\\SOMETO~1\\LONGNA~1.EXE"), ToolPath);
     EXPECT_EQ(machine.Journal().ArgumentsOf("FindFirstFileA"),
               (Strings{"C:\\PROGRA~1", "C:\\PROGRA~1\\SOMETO~1",
                        "C:\\PROGRA~1\\SOMETO~1\\LONGNA~1.EXE"}));
@@ -118,7 +118,7 @@ TEST_F(FilePathsTest, APathWithNeitherSignComesBackAsItIsWithoutACall) {
 
 TEST_F(FilePathsTest, VariablesComeBeforeShortNames) {
     machine.system.SetVariable("tools", "C:\\PROGRA~1\\SOMETO~1");
-    EXPECT_EQ(Clean("%tools%\\LONGNA~1.EXE"), kTool);
+    EXPECT_EQ(Clean("%tools%\\LONGNA~1.EXE"), ToolPath);
     EXPECT_EQ(Clean("%SystemDrive%\\PROGRA~1"), "C:\\Program Files");
     EXPECT_EQ(Clean("%nosuch%\\x"), "%nosuch%\\x");
 }

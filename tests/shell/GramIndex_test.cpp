@@ -8,7 +8,7 @@
 namespace velkarix {
 namespace {
 
-constexpr std::size_t kShortest = GramIndex::ShortestItem;
+constexpr std::size_t Shortest = GramIndex::ShortestItem;
 
 std::string RandomText(std::mt19937& random, std::size_t size, int letters) {
     std::string text(size, ' ');
@@ -18,7 +18,7 @@ std::string RandomText(std::mt19937& random, std::size_t size, int letters) {
 
 // An item that is part of the text, one that nearly is, or one that has nothing to do with it.
 std::string RandomItem(std::mt19937& random, const std::string& text) {
-    const std::size_t size = kShortest + random() % 60;
+    const std::size_t size = Shortest + random() % 60;
     std::string item = RandomText(random, size, 2);
     if (random() % 4 != 0 && text.size() >= size) {
         item = text.substr(random() % (text.size() - size + 1), size);
@@ -58,8 +58,8 @@ TEST(GramIndexTest, FindsAnItemAtEveryPlace) {
     const std::string text = RandomText(random, 500, 6);
     GramIndex index;
     index.Extend(text);
-    for (std::size_t from = 0; from + kShortest <= text.size(); ++from) {
-        for (const std::size_t size : {kShortest, kShortest + 1, text.size() - from}) {
+    for (std::size_t from = 0; from + Shortest <= text.size(); ++from) {
+        for (const std::size_t size : {Shortest, Shortest + 1, text.size() - from}) {
             EXPECT_EQ(index.Contains(text, text.substr(from, size)), true) << from;
         }
     }
@@ -69,14 +69,14 @@ TEST(GramIndexTest, CantTellOfItemsThatMayLieBetweenTwoSamples) {
     const std::string text(200, 'x');
     GramIndex index;
     index.Extend(text);
-    EXPECT_EQ(index.Contains(text, std::string(kShortest - 1, 'y')), std::nullopt);
-    EXPECT_EQ(index.Contains(text, std::string(kShortest, 'y')), false);
+    EXPECT_EQ(index.Contains(text, std::string(Shortest - 1, 'y')), std::nullopt);
+    EXPECT_EQ(index.Contains(text, std::string(Shortest, 'y')), false);
 }
 
 TEST(GramIndexTest, NothingLongerThanTheTextIsInIt) {
     GramIndex index;
-    EXPECT_EQ(index.Contains("", std::string(kShortest, 'x')), false);
-    const std::string text(kShortest, 'x');
+    EXPECT_EQ(index.Contains("", std::string(Shortest, 'x')), false);
+    const std::string text(Shortest, 'x');
     index.Extend(text);
     EXPECT_EQ(index.Contains(text, text + "x"), false);
     EXPECT_EQ(index.Contains(text, text), true);
@@ -86,8 +86,8 @@ TEST(GramIndexTest, GivesUpOnATextThatRepeatsItself) {
     const std::string text(1'000'000, 'x');
     GramIndex index;
     index.Extend(text);
-    EXPECT_EQ(index.Contains(text, std::string(kShortest, 'x')), true);
-    EXPECT_EQ(index.Contains(text, std::string(kShortest, 'x').append("y")), std::nullopt);
+    EXPECT_EQ(index.Contains(text, std::string(Shortest, 'x')), true);
+    EXPECT_EQ(index.Contains(text, std::string(Shortest, 'x').append("y")), std::nullopt);
 }
 
 TEST(GramIndexTest, GrowsWithATextThatNobodyAnnounced) {

@@ -9,7 +9,7 @@
 namespace velkarix {
 namespace {
 
-const std::string kSettings = "C:\\Velkarix\\Settings.ini";
+const std::string SettingsFile = "C:\\Velkarix\\Settings.ini";
 
 class SettingsTest : public testing::Test {
   protected:
@@ -35,12 +35,12 @@ TEST_F(SettingsTest, WhatIsWrittenIsReadAgain) {
     settings.WriteIni("Main", "SusColor", "128");
     EXPECT_EQ(settings.ReadIni("Main", "SusColor", "255"), "128");
     EXPECT_EQ(settings.ReadIni("MAIN", "suscolor", "255"), "128");
-    EXPECT_TRUE(machine.disk.Exists(kSettings));
+    EXPECT_TRUE(machine.disk.Exists(SettingsFile));
 }
 
 TEST_F(SettingsTest, AnotherFileIsGivenByItsFullPath) {
     settings.WriteIni("Application", "Name", "Velkarix", "C:\\Velkarix\\version.ini");
-    EXPECT_FALSE(machine.disk.Exists(kSettings));
+    EXPECT_FALSE(machine.disk.Exists(SettingsFile));
     EXPECT_EQ(settings.ReadIni("Application", "Name", "", "C:\\Velkarix\\version.ini"), "Velkarix");
     EXPECT_EQ(settings.ReadIni("Application", "Name", "none"), "none");
 }
@@ -51,24 +51,25 @@ TEST_F(SettingsTest, SettingsIniIsAskedForBesideTheProgram) {
     EXPECT_EQ(machine.Journal().Names(),
               (std::vector<std::string>{"GetModuleFileNameA", "GetPrivateProfileStringA",
                                         "GetModuleFileNameA", "WritePrivateProfileStringA"}));
-    EXPECT_EQ(machine.disk.ContentOf(kSettings).value_or("").substr(0, 6), "[Main]");
+    EXPECT_EQ(machine.disk.ContentOf(SettingsFile).value_or("").substr(0, 6), "[Main]");
 }
 
 TEST_F(SettingsTest, WithoutAFileSectionOrKeyTheDefaultApplies) {
     EXPECT_EQ(settings.ReadIni("Main", "FontBold", "1"), "1");
-    machine.AddFile(kSettings).Content("[Other]\r\nFontBold=0\r\n");
+    machine.AddFile(SettingsFile).Content("[Other]\r\nFontBold=0\r\n");
     EXPECT_EQ(settings.ReadIni("Main", "FontBold", "1"), "1");
     EXPECT_EQ(settings.ReadIni("Other", "View", "7"), "7");
 }
 
 TEST_F(SettingsTest, AKeyWithAnEmptyValueIsEmptyAndNotTheDefault) {
-    machine.AddFile(kSettings).Content("[Main]\r\nView=\r\n");
+    machine.AddFile(SettingsFile).Content("[Main]\r\nView=\r\n");
     EXPECT_EQ(settings.ReadIni("Main", "View", "1"), "");
 }
 
 TEST_F(SettingsTest, AValueOfMoreThan254CharactersIsCut) {
-    machine.AddFile(kSettings).Content("[Main]\r\nA=" + std::string(254, 'x') +
-                                       "\r\nB=" + std::string(255, 'y') + "\r\n");
+    machine.AddFile(SettingsFile)
+        .Content("[Main]\r\nA=" + std::string(254, 'x') + "\r\nB=" + std::string(255, 'y') +
+                 "\r\n");
     EXPECT_EQ(settings.ReadIni("Main", "A", ""), std::string(254, 'x'));
     EXPECT_EQ(settings.ReadIni("Main", "B", ""), std::string(254, 'y'));
 }
@@ -76,24 +77,24 @@ TEST_F(SettingsTest, AValueOfMoreThan254CharactersIsCut) {
 TEST_F(SettingsTest, AFileOfGarbageIsReadAsFarAsItGoes) {
     std::string garbage;
     for (int i = 0; i < 4096; ++i) garbage += static_cast<char>(i * 37 % 256);
-    machine.AddFile(kSettings).Content(garbage + "\r\n]][[=\r\n[Main]\r\nView=1\r\n" + garbage);
+    machine.AddFile(SettingsFile).Content(garbage + "\r\n]][[=\r\n[Main]\r\nView=1\r\n" + garbage);
     EXPECT_EQ(settings.ReadIni("Main", "View", "0"), "1");
     EXPECT_EQ(settings.ReadIni("Main", "Filter", "1"), "1");
 }
 
 TEST_F(SettingsTest, AFileWithVeryLongLinesIsRead) {
     const std::string line(10'000'000, 'x');
-    machine.AddFile(kSettings).Content("[Main]\r\n" + line + "=1\r\nLong=" + line +
-                                       "\r\nView=1\r\n");
+    machine.AddFile(SettingsFile)
+        .Content("[Main]\r\n" + line + "=1\r\nLong=" + line + "\r\nView=1\r\n");
     EXPECT_EQ(settings.ReadIni("Main", "View", "0"), "1");
     EXPECT_EQ(settings.ReadIni("Main", "Long", ""), std::string(254, 'x'));
 }
 
 TEST_F(SettingsTest, AFileThatCantBeWrittenStaysAsItIsWithoutAWord) {
     const std::string before = "[Main]\r\nFirstRun=0\r\n";
-    machine.AddFile(kSettings).Content(before).ReadOnly();
+    machine.AddFile(SettingsFile).Content(before).ReadOnly();
     settings.WriteIni("Main", "FirstRun", "1");
-    EXPECT_EQ(machine.disk.ContentOf(kSettings), before);
+    EXPECT_EQ(machine.disk.ContentOf(SettingsFile), before);
     EXPECT_EQ(settings.ReadIni("Main", "FirstRun", "0"), "0");
     machine.FailNext("WritePrivateProfileStringA");
     settings.WriteIni("Main", "FirstRun", "1", "C:\\Velkarix\\Other.ini");

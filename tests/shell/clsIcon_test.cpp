@@ -10,13 +10,13 @@
 namespace velkarix {
 namespace {
 
-const std::string kPath = "C:\\WINDOWS\\tool.exe";
-const Picture kLarge{2, 1, {0xFF000001, 0xFF000002}};
-const Picture kSmall{1, 1, {0xFF000003}};
+const std::string Path = "C:\\WINDOWS\\tool.exe";
+const Picture Large{2, 1, {0xFF000001, 0xFF000002}};
+const Picture Small{1, 1, {0xFF000003}};
 
 class clsIconTest : public testing::Test {
   protected:
-    clsIconTest() { machine.AddFile(kPath).Icon(0, kLarge, kSmall).Icon(-7, kSmall, kLarge); }
+    clsIconTest() { machine.AddFile(Path).Icon(0, Large, Small).Icon(-7, Small, Large); }
     void TearDown() override { EXPECT_EQ(machine.shell.OpenIconCount(), 0u); }
 
     MemoryMachine machine;
@@ -24,20 +24,20 @@ class clsIconTest : public testing::Test {
 };
 
 TEST_F(clsIconTest, DrawsTheWantedSizeAndDestroysBothHandles) {
-    EXPECT_EQ(icons.GetIconFromFile(kPath, 0, true), kLarge);
+    EXPECT_EQ(icons.GetIconFromFile(Path, 0, true), Large);
     EXPECT_EQ(machine.Journal().Names(), (std::vector<std::string>{"ExtractIconExA", "DrawIconEx",
                                                                    "DestroyIcon", "DestroyIcon"}));
-    EXPECT_EQ(icons.GetIconFromFile(kPath, 0, false), kSmall);
+    EXPECT_EQ(icons.GetIconFromFile(Path, 0, false), Small);
 }
 
 TEST_F(clsIconTest, TakesTheIndexAsTheSystemDoes) {
-    EXPECT_EQ(icons.GetIconFromFile(kPath, -7, true), kSmall);
+    EXPECT_EQ(icons.GetIconFromFile(Path, -7, true), Small);
     EXPECT_EQ(machine.Journal().ArgumentsOf("ExtractIconExA"),
-              (std::vector<std::string>{kPath + ", -7"}));
+              (std::vector<std::string>{Path + ", -7"}));
 }
 
 TEST_F(clsIconTest, AFileWithoutThatIconGivesNothing) {
-    EXPECT_EQ(icons.GetIconFromFile(kPath, 1, true), std::nullopt);
+    EXPECT_EQ(icons.GetIconFromFile(Path, 1, true), std::nullopt);
     EXPECT_EQ(icons.GetIconFromFile("C:\\missing.exe", 0, true), std::nullopt);
     EXPECT_EQ(icons.GetIconFromFile("", 0, false), std::nullopt);
     EXPECT_EQ(machine.Journal().CountOf("DrawIconEx"), 0u);
@@ -45,7 +45,7 @@ TEST_F(clsIconTest, AFileWithoutThatIconGivesNothing) {
 
 TEST_F(clsIconTest, BothHandlesAreDestroyedAlsoWhenDrawingFails) {
     machine.FailNext("DrawIconEx");
-    EXPECT_EQ(icons.GetIconFromFile(kPath, 0, true), std::nullopt);
+    EXPECT_EQ(icons.GetIconFromFile(Path, 0, true), std::nullopt);
     EXPECT_EQ(machine.Journal().CountOf("DestroyIcon"), 2u);
 }
 
@@ -66,14 +66,14 @@ struct OddShell : MemoryShell {
 TEST_F(clsIconTest, AnIconInTheOtherSizeOnlyIsNoneAndIsDestroyed) {
     OddShell shell(machine.Journal(), machine.disk);
     shell.icons = {1, 0, 5};
-    EXPECT_EQ(clsIcon(shell).GetIconFromFile(kPath, 0, true), std::nullopt);
+    EXPECT_EQ(clsIcon(shell).GetIconFromFile(Path, 0, true), std::nullopt);
     EXPECT_EQ(shell.destroyed, (std::vector<IconHandle>{5}));
 }
 
 TEST_F(clsIconTest, HandlesOfACallThatReportsNoIconAreDestroyedToo) {
     OddShell shell(machine.Journal(), machine.disk);
     shell.icons = {0, 4, 5};
-    EXPECT_EQ(clsIcon(shell).GetIconFromFile(kPath, 0, true), std::nullopt);
+    EXPECT_EQ(clsIcon(shell).GetIconFromFile(Path, 0, true), std::nullopt);
     EXPECT_EQ(shell.destroyed, (std::vector<IconHandle>{4, 5}));
 }
 

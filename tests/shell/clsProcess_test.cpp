@@ -13,14 +13,14 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-const std::string kPath = "C:\\WINDOWS\\tool.exe";
+const std::string Path = "C:\\WINDOWS\\tool.exe";
 
 class clsProcessTest : public testing::Test {
   protected:
     void TearDown() override { EXPECT_EQ(machine.files.OpenSearchCount(), 0u); }
 
-    MemoryEntry& File() { return machine.AddFile(kPath).Created(2003, 5, 9, 23, 59); }
-    Strings Facts(const std::string& path = kPath) {
+    MemoryEntry& File() { return machine.AddFile(Path).Created(2003, 5, 9, 23, 59); }
+    Strings Facts(const std::string& path = Path) {
         facts.GetFileDescription(path);
         Strings values;
         for (int row = 0; row <= 12; ++row) values.push_back(facts.getItem(row));
@@ -37,7 +37,7 @@ class clsProcessTest : public testing::Test {
     clsProcess facts{machine.Parts()};
 };
 
-const VersionResourceBuilder::Fields kFields = {
+const VersionResourceBuilder::Fields AllFields = {
     {"CompanyName", "Company"},       {"FileDescription", "Description"},
     {"FileVersion", "1.2"},           {"InternalName", "Internal"},
     {"OriginalFilename", "tool.exe"}, {"ProductName", "Product"},
@@ -46,17 +46,17 @@ const VersionResourceBuilder::Fields kFields = {
     {"PrivateBuild", "private"},      {"SpecialBuild", "special"},
 };
 
-const Strings kAllFacts = {"Product",  "3.4",     "Description", "1.2",     "Internal",
-                           "tool.exe", "Comment", "Company",     "\xA9 We", "TM",
-                           "private",  "special", "05/09/2003"};
+const Strings AllFacts = {"Product",  "3.4",     "Description", "1.2",     "Internal",
+                          "tool.exe", "Comment", "Company",     "\xA9 We", "TM",
+                          "private",  "special", "05/09/2003"};
 
 TEST_F(clsProcessTest, ReadsTheTwelveFieldsAndTheCreationDate) {
-    File().Version(kFields);
-    EXPECT_EQ(Facts(), kAllFacts);
+    File().Version(AllFields);
+    EXPECT_EQ(Facts(), AllFacts);
 }
 
 TEST_F(clsProcessTest, AsksTheSystemInThisOrder) {
-    File().Version(kFields);
+    File().Version(AllFields);
     Facts();
     Strings calls = {"GetFileVersionInfoSizeA", "GetFileVersionInfoA"};
     calls.insert(calls.end(), 14, "VerQueryValueA");
@@ -77,7 +77,7 @@ TEST_F(clsProcessTest, AFileWithoutAResourceHasItsDateAlone) {
 }
 
 TEST_F(clsProcessTest, AMissingFileHasNoFactsAtAll) {
-    File().Version(kFields);
+    File().Version(AllFields);
     Facts();
     EXPECT_EQ(Facts("C:\\WINDOWS\\missing.exe"), Strings(13));
     EXPECT_EQ(Facts(""), Strings(13));
@@ -91,7 +91,7 @@ TEST_F(clsProcessTest, FieldsThatTheResourceLacksStayEmpty) {
 }
 
 TEST_F(clsProcessTest, NothingStaysOfTheFileBefore) {
-    File().Version(kFields);
+    File().Version(AllFields);
     machine.AddFile("C:\\WINDOWS\\other.exe").Created(2001, 1, 2).Version({{"Comments", "C"}});
     Facts();
     Strings expected = OnlyDate("01/02/2001");
@@ -100,7 +100,7 @@ TEST_F(clsProcessTest, NothingStaysOfTheFileBefore) {
 }
 
 TEST_F(clsProcessTest, AFileWithoutATranslationTableHasItsDateAlone) {
-    File().VersionBlock(VersionResourceBuilder().Strings("040904B0", kFields).Build());
+    File().VersionBlock(VersionResourceBuilder().Strings("040904B0", AllFields).Build());
     EXPECT_EQ(Facts(), OnlyDate("05/09/2003"));
 }
 
@@ -108,15 +108,17 @@ TEST_F(clsProcessTest, OnlyTheFirstTranslationCounts) {
     File().VersionBlock(VersionResourceBuilder()
                             .Translation(0x0407, 0x04E4)
                             .Translation(0x0409, 0x04B0)
-                            .Strings("040904B0", kFields)
+                            .Strings("040904B0", AllFields)
                             .Build());
     EXPECT_EQ(Facts(), OnlyDate("05/09/2003"));
 }
 
 TEST_F(clsProcessTest, TheLanguageKeyIsPaddedAndInCapitals) {
-    File().VersionBlock(
-        VersionResourceBuilder().Translation(0x0C0A, 0x0009).Strings("0C0A0009", kFields).Build());
-    EXPECT_EQ(Facts(), kAllFacts);
+    File().VersionBlock(VersionResourceBuilder()
+                            .Translation(0x0C0A, 0x0009)
+                            .Strings("0C0A0009", AllFields)
+                            .Build());
+    EXPECT_EQ(Facts(), AllFacts);
     EXPECT_EQ(machine.Journal().ArgumentsOf("VerQueryValueA")[2],
               "\\StringFileInfo\\0C0A0009\\ProductName");
 }
@@ -125,7 +127,7 @@ TEST_F(clsProcessTest, TheLanguageKeyIsPaddedAndInCapitals) {
 
 TEST_F(clsProcessTest, BrokenResourcesLeaveTheDateAlone) {
     const Bytes whole =
-        VersionResourceBuilder().Translation(0x0409, 0x04B0).Strings("040904B0", kFields).Build();
+        VersionResourceBuilder().Translation(0x0409, 0x04B0).Strings("040904B0", AllFields).Build();
     for (std::size_t size = 0; size < whole.size(); size += 7) {
         File().VersionBlock(
             Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)));
@@ -169,7 +171,7 @@ class LyingResourcesTest : public clsProcessTest {
 TEST_F(LyingResourcesTest, ASizeThatNoResourceHasIsNone) {
     for (const std::uint32_t size : {0u, 0x80000000u, 0xFFFFFFFFu, 100'000'000u}) {
         lying.size = size;
-        lyingFacts.GetFileDescription(kPath);
+        lyingFacts.GetFileDescription(Path);
         EXPECT_EQ(lyingFacts.getItem(0), "") << size;
     }
     EXPECT_EQ(lying.reads, 0);
@@ -178,30 +180,30 @@ TEST_F(LyingResourcesTest, ASizeThatNoResourceHasIsNone) {
 TEST_F(LyingResourcesTest, ATranslationOfLessThanFourBytesIsNone) {
     for (const Bytes& translation : {Bytes{}, Bytes{9}, Bytes{9, 4, 0xB0}}) {
         lying.translation = translation;
-        lyingFacts.GetFileDescription(kPath);
+        lyingFacts.GetFileDescription(Path);
         EXPECT_EQ(lyingFacts.getItem(0), "");
     }
 }
 
 TEST_F(LyingResourcesTest, ATextEndsAtItsNulOrWithItsBytes) {
     lying.text = Bytes{'a', 'b', 0, 'c'};
-    lyingFacts.GetFileDescription(kPath);
+    lyingFacts.GetFileDescription(Path);
     EXPECT_EQ(lyingFacts.getItem(0), "ab");
     lying.text = Bytes{'a', 0xE4};
-    lyingFacts.GetFileDescription(kPath);
+    lyingFacts.GetFileDescription(Path);
     EXPECT_EQ(lyingFacts.getItem(0), "a\xE4");
     lying.text = Bytes{};
-    lyingFacts.GetFileDescription(kPath);
+    lyingFacts.GetFileDescription(Path);
     EXPECT_EQ(lyingFacts.getItem(0), "");
 }
 
 TEST_F(clsProcessTest, WhatFailsIsEmptyAndTheRestIsRead) {
-    File().Version(kFields);
+    File().Version(AllFields);
     for (const std::string call : {"GetFileVersionInfoSizeA", "GetFileVersionInfoA"}) {
         machine.FailNext(call);
         EXPECT_EQ(Facts(), OnlyDate("05/09/2003")) << call;
     }
-    Strings withoutDate = kAllFacts;
+    Strings withoutDate = AllFacts;
     withoutDate[12] = "";
     for (const std::string call :
          {"FindFirstFileA", "FileTimeToLocalFileTime", "FileTimeToSystemTime"}) {
@@ -209,7 +211,7 @@ TEST_F(clsProcessTest, WhatFailsIsEmptyAndTheRestIsRead) {
         EXPECT_EQ(Facts(), withoutDate) << call;
     }
     machine.FailNext("VerQueryValueA");  // that of the fixed block, which nobody needs
-    EXPECT_EQ(Facts(), kAllFacts);
+    EXPECT_EQ(Facts(), AllFacts);
 }
 
 // ---- The date
@@ -223,7 +225,7 @@ TEST_F(clsProcessTest, TheDateIsInLocalTime) {
 }
 
 TEST_F(clsProcessTest, AFileWithoutACreationTimeShowsTheFirstDayOfTheDisksCalendar) {
-    machine.AddFile(kPath).Created(0);
+    machine.AddFile(Path).Created(0);
     EXPECT_EQ(Facts()[12], "01/01/1601");
 }
 

@@ -10,15 +10,15 @@
 namespace velkarix {
 namespace {
 
-const std::string kPath = "C:\\WINDOWS\\tool.exe";
+const std::string Path = "C:\\WINDOWS\\tool.exe";
 
 class modMD5Test : public testing::Test {
   protected:
     void TearDown() override { EXPECT_EQ(machine.files.OpenFileCount(), 0u); }
 
     std::string Digest(const std::string& content) {
-        machine.AddFile(kPath).Content(content);
-        return GetFileMD5(machine.Parts(), kPath);
+        machine.AddFile(Path).Content(content);
+        return GetFileMD5(machine.Parts(), Path);
     }
 
     MemoryMachine machine;
@@ -48,7 +48,7 @@ TEST_F(modMD5Test, AFileThatCantBeReadHasNone) {
     EXPECT_EQ(GetFileMD5(machine.Parts(), ""), "");
     machine.AddFolder("C:\\Folder");
     EXPECT_EQ(GetFileMD5(machine.Parts(), "C:\\Folder"), "");
-    machine.AddFile(kPath).Unreadable();
+    machine.AddFile(Path).Unreadable();
     EXPECT_EQ(Digest("abc"), "");
 }
 
@@ -80,13 +80,13 @@ TEST_F(modMD5Test, AFileThatFailsPartWayHasNone) {
         }
         int reads = 0;
     } files(machine.Journal(), machine.disk);
-    machine.AddFile(kPath).Content(std::string(1'000'000, 'a'));
+    machine.AddFile(Path).Content(std::string(1'000'000, 'a'));
     const Machine real = machine.Parts();
     const Machine parts{real.registry, real.profileFiles, real.versionResources,
                         files,         real.clock,        real.processes,
                         real.token,    real.shell,        real.system,
                         real.windows,  real.cryptography};
-    EXPECT_EQ(GetFileMD5(parts, kPath), "");
+    EXPECT_EQ(GetFileMD5(parts, Path), "");
     EXPECT_EQ(files.OpenFileCount(), 0u);
 }
 
@@ -98,13 +98,13 @@ TEST_F(modMD5Test, ADigestOfAnotherLengthIsNone) {
     struct ShortCryptography : Cryptography {
         std::unique_ptr<Hash> CryptCreateHash() override { return std::make_unique<ShortHash>(); }
     } cryptography;
-    machine.AddFile(kPath).Content("abc");
+    machine.AddFile(Path).Content("abc");
     const Machine real = machine.Parts();
     const Machine parts{real.registry, real.profileFiles, real.versionResources,
                         real.files,    real.clock,        real.processes,
                         real.token,    real.shell,        real.system,
                         real.windows,  cryptography};
-    EXPECT_EQ(GetFileMD5(parts, kPath), "");
+    EXPECT_EQ(GetFileMD5(parts, Path), "");
 }
 
 }  // namespace

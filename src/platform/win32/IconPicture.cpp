@@ -21,7 +21,7 @@ using OwnedBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, ObjectDelete
 using OwnedContext = std::unique_ptr<std::remove_pointer_t<HDC>, ContextDeleter>;
 
 // Sizes of real icons end at 256; a bitmap far beyond is a broken file's.
-constexpr int kLargestSide = 1024;
+constexpr int LargestSide = 1024;
 
 struct Size {
     int width = 0;
@@ -40,7 +40,7 @@ std::optional<Size> SizeOf(HICON icon) {
     if (::GetObjectA(measured, sizeof(facts), &facts) == 0) return std::nullopt;
     const Size size{facts.bmWidth, colour ? facts.bmHeight : facts.bmHeight / 2};
     if (size.width < 1 || size.height < 1) return std::nullopt;
-    if (std::max(size.width, size.height) > kLargestSide) return std::nullopt;
+    if (std::max(size.width, size.height) > LargestSide) return std::nullopt;
     return size;
 }
 

@@ -8,7 +8,7 @@
 namespace velkarix {
 namespace {
 
-constexpr DWORD kDigestSize = 16;
+constexpr DWORD DigestSize = 16;
 
 struct HashCalls {
     decltype(&::CryptHashData) hashData;
@@ -30,8 +30,8 @@ class Win32Hash : public Hash {
     }
 
     std::optional<Bytes> CryptGetHashParam() override {
-        Bytes digest(kDigestSize);
-        DWORD size = kDigestSize;
+        Bytes digest(DigestSize);
+        DWORD size = DigestSize;
         if (!calls_.getHashParam(hash_, HP_HASHVAL, digest.data(), &size, 0)) return std::nullopt;
         return digest;
     }

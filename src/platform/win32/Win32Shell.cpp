@@ -15,7 +15,7 @@ const char* TextOrNone(const std::string& text) {
 }
 
 // What ExtractIconExA gives for a file that isn't there.
-constexpr UINT kNoFile = 0xFFFFFFFF;
+constexpr UINT NoFile = 0xFFFFFFFF;
 
 }  // namespace
 
@@ -37,7 +37,7 @@ ExtractedIcons Win32Shell::ExtractIconExA(const std::string& path, int index) {
     HICON smallIcon = nullptr;
     const UINT count = ::ExtractIconExA(path.c_str(), index, &largeIcon, &smallIcon, 1);
     // Without an icon some systems leave anything in the handles.
-    if (count == 0 || count == kNoFile) {
+    if (count == 0 || count == NoFile) {
         return {};
     }
     return {count, reinterpret_cast<IconHandle>(largeIcon),

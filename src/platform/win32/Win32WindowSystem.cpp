@@ -20,12 +20,12 @@ HMENU MenuOf(MenuHandle number) {
 }
 
 // The size of the structure as the first systems know it, without the bitmap that came later.
-constexpr UINT kItemInfoSize = offsetof(MENUITEMINFOA, hbmpItem);
-static_assert(sizeof(void*) != 4 || kItemInfoSize == 44);
+constexpr UINT ItemInfoSize = offsetof(MENUITEMINFOA, hbmpItem);
+static_assert(sizeof(void*) != 4 || ItemInfoSize == 44);
 
 MENUITEMINFOA Structure(const MenuItemInfo& info) {
     MENUITEMINFOA structure{};
-    structure.cbSize = kItemInfoSize;
+    structure.cbSize = ItemInfoSize;
     structure.fMask = info.mask;
     structure.fState = info.state;
     structure.wID = info.id;
