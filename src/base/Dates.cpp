@@ -5,9 +5,8 @@
 namespace velkarix {
 
 int DayNumber(int year, int month, int day) {
-    using namespace std::chrono;
-    const sys_days date = std::chrono::year(year) / month / day;
-    const sys_days dayZero = std::chrono::year(1899) / 12 / 30;
+    const std::chrono::sys_days date = std::chrono::year(year) / month / day;
+    const std::chrono::sys_days dayZero = std::chrono::year(1899) / 12 / 30;
     return static_cast<int>((date - dayZero).count());
 }
 

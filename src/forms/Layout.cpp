@@ -35,6 +35,7 @@ int GapsBetween(std::size_t count, LayoutMetrics& metrics) {
 
 std::vector<Size> SizesOf(const std::vector<Layout>& children, LayoutMetrics& metrics) {
     std::vector<Size> sizes;
+    sizes.reserve(children.size());
     for (const Layout& child : children) sizes.push_back(MinimumSize(child, metrics));
     return sizes;
 }
@@ -42,6 +43,7 @@ std::vector<Size> SizesOf(const std::vector<Layout>& children, LayoutMetrics& me
 // The least lengths of a row's or column's children along its direction.
 std::vector<int> LengthsAlong(const Layout& layout, const std::vector<Size>& sizes, bool row) {
     std::vector<int> lengths;
+    lengths.reserve(sizes.size());
     for (const Size& size : sizes) lengths.push_back(Along(size, row));
     if (layout.uniform && !lengths.empty()) {
         lengths.assign(lengths.size(), *std::max_element(lengths.begin(), lengths.end()));
