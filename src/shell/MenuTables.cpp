@@ -92,18 +92,18 @@ Menu MakeBrowserMenu(const BrowserMenu& row) {
     const std::string what = row.what;
     return {row.prefix,
             row.caption,
-            {{prefix + "Disable", "&Disable Checked " + what, row.disable},
-             {prefix + "Enable", "&Enable Checked " + what, row.enable},
+            {{prefix + "_Disable", "&Disable Checked " + what, row.disable},
+             {prefix + "_Enable", "&Enable Checked " + what, row.enable},
              Dash,
-             {prefix + "Delete", "&Delete Selected " + what, row.deleteHandler},
+             {prefix + "_Delete", "&Delete Selected " + what, row.deleteHandler},
              Dash,
-             {prefix + "View", "&View Information", row.view},
-             {prefix + "Report", "&Generate Report", row.report},
+             {prefix + "_View", "&View Information", row.view},
+             {prefix + "_Report", "&Generate Report", row.report},
              Dash,
-             {prefix + "Open", "&Open Folder", row.open},
-             {prefix + "Refresh", "&Refresh", row.refresh},
+             {prefix + "_Open", "&Open Folder", row.open},
+             {prefix + "_Refresh", "&Refresh", row.refresh},
              Dash,
-             {prefix + "Google", "&Search Google", row.search}}};
+             {prefix + "_Google", "&Search Google", row.search}}};
 }
 
 Menu ContextMenu() {

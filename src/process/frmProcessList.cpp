@@ -1,0 +1,129 @@
+// The list of the process page: how it is filled, and what the user does with its rows.
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "base/Text.h"
+#include "process/ClassifyProcess.h"
+#include "process/ProcessColumns.h"
+#include "process/ProcessEntries.h"
+#include "process/frmProcess.h"
+#include "shell/FilePaths.h"
+#include "shell/ListServices.h"
+#include "shell/ShellOpen.h"
+#include "shell/clsIcon.h"
+
+namespace velkarix {
+
+namespace {
+
+// The columns that show a fact of the file, and the fact's row.
+struct FactColumn {
+    std::size_t column;
+    int fact;
+};
+const FactColumn FactColumns[] = {{processColumn::Created, 12},
+                                  {processColumn::Company, 7},
+                                  {processColumn::Product, 0},
+                                  {processColumn::Description, 2}};
+
+constexpr std::size_t DefaultImage = 1;
+
+}  // namespace
+
+void frmProcess::LoadProcessList() {
+    lstvProcess_.Clear();
+    lstvProcess_.SetImages(nullptr);
+    imglProcess_.Clear();
+    imglProcess_.Add(StockPicture{"Software"});
+    lstvProcess_.SetImages(&imglProcess_);
+    for (const ProcessEntry& entry :
+         ListProcesses(application_.machine, application_.WindowsName)) {
+        ShowEntry(entry.path, entry.id);
+    }
+    if (lstvProcess_.RowCount() == 0) return;
+    AutoSizeColumns(lstvProcess_);
+    lstvProcess_ItemClick(lstvProcess_.Row(0));
+}
+
+void frmProcess::ShowEntry(const std::string& path, ProcessId id) {
+    const std::string name = ProcessName(path);
+    if (!filterOn_) {
+        AddProcessRow(path, name, id, false);
+        return;
+    }
+    const std::string lowerPath = ToLower(path);
+    if (IsBootProcessPath(lowerPath)) return;
+    const ProcessVerdict verdict =
+        ClassifyProcess(application_, safeProcessList_, verdictCache_, lowerPath);
+    if (!verdict.IsSystem && !verdict.IsSafe) AddProcessRow(path, name, id, verdict.IsSuspicious);
+}
+
+void frmProcess::AddProcessRow(const std::string& path, const std::string& name, ProcessId id,
+                               bool suspicious) {
+    const std::string key = EncodeDigits(static_cast<std::int32_t>(id));
+    const bool exists = PathExists(application_.machine.files, path);
+    std::size_t image = DefaultImage;
+    if (exists) {
+        clsIcon icons(application_.machine.shell);
+        if (std::optional<Picture> icon = icons.GetIconFromFile(path, 0, false)) {
+            image = imglProcess_.Add(std::move(*icon));
+        }
+    }
+    ListRow& row = lstvProcess_.Add(key, name, image);
+    row.SetText(processColumn::Folder, ProcessFolder(path));
+    if (exists) {
+        fileInfo_.GetFileDescription(path);
+        row.SetText(processColumn::Size, FileSizeText(application_.machine.files, path));
+        for (const FactColumn& each : FactColumns) {
+            row.SetText(each.column, fileInfo_.getItem(each.fact));
+        }
+    }
+    MarkRow(application_.appearance, row, true, suspicious);
+}
+
+void frmProcess::lstvProcess_ItemClick(const ListRow& row) {
+    FileSystem& files = application_.machine.files;
+    cmdOpen_.SetEnabled(PathExists(files, row.Text(processColumn::Folder)));
+    cmdDelete_.SetEnabled(PathExists(files, FullPath(row)));
+}
+
+void frmProcess::lstvProcess_ColumnClick(int column) {
+    SortByColumn(lstvProcess_, column - 1);
+}
+
+void frmProcess::lstvProcess_DblClick() {
+    const ListRow* row = lstvProcess_.SelectedRow();
+    if (row == nullptr) return;
+    std::string query = row->Text(processColumn::Name);
+    std::string company = row->Text(processColumn::Company);
+    std::replace(company.begin(), company.end(), ' ', '+');
+    if (!company.empty()) query += "+" + company;
+    ShellOpen(application_.machine.shell, SearchAddress(query));
+}
+
+// With rows but none of them selected there is nothing that the menu could be about; an empty
+// list still offers to refresh.
+void frmProcess::lstvProcess_MouseUp(MouseButton button) {
+    const bool nothingMeant = lstvProcess_.RowCount() > 0 && lstvProcess_.SelectedRow() == nullptr;
+    if (button != MouseButton::Right || nothingMeant) return;
+    SetMenuEntries();
+    application_.menus.PopupMenu("mnuProcess", *this);
+}
+
+void frmProcess::SetMenuEntries() {
+    Menu& menu = *application_.menus.Find("mnuProcess");
+    const auto enable = [&menu](const char* entry, bool enabled) {
+        menu.Find(entry)->enabled = enabled;
+    };
+    const bool rows = lstvProcess_.RowCount() > 0;
+    for (const char* entry : {"mnuKill", "mnuView", "mnuReport", "mnuGoogle"}) enable(entry, rows);
+    enable("mnuAdd", rows && filterOn_);
+    enable("mnuRemove", rows && !filterOn_);
+    const ListRow* row = lstvProcess_.SelectedRow();
+    FileSystem& files = application_.machine.files;
+    enable("mnuOpen", row != nullptr && PathExists(files, row->Text(processColumn::Folder)));
+    enable("mnuDelete", row != nullptr && PathExists(files, FullPath(*row)));
+}
+
+}  // namespace velkarix
