@@ -54,6 +54,22 @@ ErrorCode HostFiles::CreateDirectoryA(const std::string&) {
     return error::AccessDenied;
 }
 
+ErrorCode HostFiles::CopyFileA(const std::string&, const std::string&) {
+    return error::AccessDenied;
+}
+
+ErrorCode HostFiles::DeleteFileA(const std::string&) {
+    return error::AccessDenied;
+}
+
+std::string HostFiles::GetShortPathNameA(const std::string&, std::uint32_t) {
+    return {};
+}
+
+bool HostFiles::MoveFileExA(const std::string&) {
+    return false;
+}
+
 ErrorCode HostFiles::CreateFileA(const std::string& path, FileUse use, FileHandle& file) {
     if (use != FileUse::Read) return error::AccessDenied;
     const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC);

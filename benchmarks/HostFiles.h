@@ -15,6 +15,10 @@ class HostFiles : public FileSystem {
     std::optional<bool> PathFileExistsA(const std::string& path) override;
     std::uint32_t GetFileAttributesA(const std::string& path) override;
     ErrorCode CreateDirectoryA(const std::string& path) override;
+    ErrorCode CopyFileA(const std::string& from, const std::string& to) override;
+    ErrorCode DeleteFileA(const std::string& path) override;
+    std::string GetShortPathNameA(const std::string& path, std::uint32_t capacity) override;
+    bool MoveFileExA(const std::string& path) override;
     ErrorCode CreateFileA(const std::string& path, FileUse use, FileHandle& file) override;
     std::optional<std::uint64_t> GetFileSize(FileHandle file) override;
     ErrorCode ReadFile(FileHandle file, std::span<std::uint8_t> buffer,

@@ -36,6 +36,11 @@ class Clock {
     // Nothing when the time is out of the system's range.
     virtual std::optional<FileTime> FileTimeToLocalFileTime(FileTime time) = 0;
     virtual std::optional<SystemTime> FileTimeToSystemTime(FileTime time) = 0;
+    // The date and the time of day in the user's short date and time formats.
+    virtual std::string GetDateFormatA(const SystemTime& time) = 0;
+    virtual std::string GetTimeFormatA(const SystemTime& time) = 0;
+    // Blocks the program.
+    virtual void Sleep(std::uint32_t milliseconds) = 0;
     // Reads a date in any form that the user's settings accept; nothing when the text is no date
     // or the automation library isn't there.
     virtual std::optional<OleDate> VarDateFromStr(const std::string& text) = 0;

@@ -57,6 +57,16 @@ class FileSystem {
     // Makes one folder; its parent must exist. The code says why not (AlreadyExists, ...).
     virtual ErrorCode CreateDirectoryA(const std::string& path) = 0;
 
+    // Copies a file with its attributes; an existing target is replaced.
+    virtual ErrorCode CopyFileA(const std::string& from, const std::string& to) = 0;
+    virtual ErrorCode DeleteFileA(const std::string& path) = 0;
+    // The 8.3 form of the path of something that exists, at most `capacity` bytes with the NUL;
+    // empty when there is none.
+    virtual std::string GetShortPathNameA(const std::string& path, std::uint32_t capacity) = 0;
+    // Has the file deleted at the next start of the system (MOVEFILE_DELAY_UNTIL_REBOOT, without a
+    // target). False on the 95 family, which has no such service.
+    virtual bool MoveFileExA(const std::string& path) = 0;
+
     // Opens a file; `file` is set on Success only. Readers share with other readers and writers.
     virtual ErrorCode CreateFileA(const std::string& path, FileUse use, FileHandle& file) = 0;
     // The length in bytes; nothing on failure.

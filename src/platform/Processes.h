@@ -2,8 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "platform/Errors.h"
 
 namespace velkarix {
 
@@ -35,6 +38,12 @@ class Processes {
 
     // 0 when the process is gone or can't be opened with this access mask.
     virtual ProcessHandle OpenProcess(std::uint32_t access, ProcessId id) = 0;
+    // Nothing on failure. 259 is the code of a process that still runs.
+    virtual std::optional<std::uint32_t> GetExitCodeProcess(ProcessHandle process) = 0;
+    // Stops the process, which ends with this code.
+    virtual bool TerminateProcess(ProcessHandle process, std::uint32_t exitCode) = 0;
+    // Why the last of the three calls above failed.
+    virtual ErrorCode GetLastError() = 0;
     // Closing 0 does nothing and gives false.
     virtual bool CloseHandle(ProcessHandle handle) = 0;
 

@@ -81,4 +81,12 @@ TEST_P(ClockConformance, OtherTextsAreNoDates) {
     }
 }
 
+// The user's settings decide the form; under those of US English it is this one.
+TEST_P(ClockConformance, ADateAndATimeHaveTheirShortForms) {
+    const SystemTime time = {2004, 6, 2, 1, 15, 4, 5, 0};
+    EXPECT_EQ(clock_.GetDateFormatA(time), "6/1/2004");
+    EXPECT_EQ(clock_.GetTimeFormatA(time), "3:04:05 PM");
+    EXPECT_EQ(clock_.GetTimeFormatA({2004, 6, 2, 1, 0, 0, 0, 0}), "12:00:00 AM");
+}
+
 }  // namespace velkarix

@@ -53,6 +53,8 @@ class Home {
     // Sets an environment variable of this process.
     virtual void SetVariable(const std::string& name, const std::string& value) = 0;
     virtual ProcessId OwnProcessId() = 0;
+    // A process that runs until it is stopped, or until the test ends.
+    virtual ProcessId StartProcess() = 0;
     // The full path of a program that does nothing when it is started without parameters.
     virtual std::string QuietProgram() = 0;
 

@@ -10,6 +10,9 @@ namespace velkarix {
 namespace {
 
 constexpr std::uint32_t readAccess = 1040;  // query information, read memory
+constexpr std::uint32_t queryAccess = 1024;
+constexpr std::uint32_t stopAccess = 1025;  // terminate, query information
+constexpr std::uint32_t stillActive = 259;
 constexpr std::uint32_t processesFlag = 2;
 
 }  // namespace
@@ -123,6 +126,40 @@ TEST_P(ProcessConformance, ASnapshotStartsAgainWithItsFirstEntry) {
     ASSERT_TRUE(processes_.Process32First(snapshot, again));
     EXPECT_EQ(again.id, first.id);
     processes_.CloseHandle(snapshot);
+}
+
+TEST_P(ProcessConformance, ARunningProcessHasTheCodeOfOne) {
+    const ProcessHandle process = processes_.OpenProcess(stopAccess, home_->StartProcess());
+    ASSERT_NE(process, 0u);
+    EXPECT_EQ(processes_.GetExitCodeProcess(process), stillActive);
+    EXPECT_TRUE(processes_.CloseHandle(process));
+}
+
+TEST_P(ProcessConformance, AStoppedProcessEndsWithTheCodeThatItWasGiven) {
+    const ProcessHandle process = processes_.OpenProcess(stopAccess, home_->StartProcess());
+    EXPECT_TRUE(processes_.TerminateProcess(process, 77));
+    machine_.clock.Sleep(200);
+    EXPECT_EQ(processes_.GetExitCodeProcess(process), 77u);
+    EXPECT_TRUE(processes_.CloseHandle(process));
+}
+
+TEST_P(ProcessConformance, AProcessThatIsNotThereGivesTheErrorOfAWrongParameter) {
+    EXPECT_EQ(processes_.OpenProcess(stopAccess, 0x7FFFFFF0), 0u);
+    EXPECT_EQ(processes_.GetLastError(), error::InvalidParameter);
+}
+
+TEST_P(ProcessConformance, NoHandleHasNoExitCodeAndIsNotStopped) {
+    EXPECT_FALSE(processes_.GetExitCodeProcess(0).has_value());
+    EXPECT_EQ(processes_.GetLastError(), error::InvalidHandle);
+    EXPECT_FALSE(processes_.TerminateProcess(0, 1));
+    EXPECT_EQ(processes_.GetLastError(), error::InvalidHandle);
+}
+
+TEST_P(ModuleConformance, StoppingNeedsTheRightToStop) {
+    const ProcessHandle process = processes_.OpenProcess(queryAccess, home_->StartProcess());
+    EXPECT_FALSE(processes_.TerminateProcess(process, 1));
+    EXPECT_EQ(processes_.GetLastError(), error::AccessDenied);
+    processes_.CloseHandle(process);
 }
 
 }  // namespace velkarix

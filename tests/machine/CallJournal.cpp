@@ -6,7 +6,11 @@
 namespace velkarix {
 
 ErrorCode CallJournal::Enter(std::string_view name, std::string arguments) {
+    const std::size_t number = calls_.size();
     calls_.push_back({std::string(name), std::move(arguments)});
+    if (number >= firstFailing_ && number <= lastFailing_) {
+        return numberedFailure_;
+    }
     const auto next = nextFailures_.find(name);
     if (next != nextFailures_.end()) {
         const ErrorCode error = next->second.front();
@@ -18,6 +22,12 @@ ErrorCode CallJournal::Enter(std::string_view name, std::string arguments) {
     }
     const auto lasting = lastingFailures_.find(name);
     return lasting == lastingFailures_.end() ? error::Success : lasting->second;
+}
+
+void CallJournal::FailCall(std::size_t number, ErrorCode error, bool allFromThereOn) {
+    firstFailing_ = number;
+    lastFailing_ = allFromThereOn ? SIZE_MAX : number;
+    numberedFailure_ = error;
 }
 
 void CallJournal::FailNext(const std::string& name, ErrorCode error) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <deque>
 #include <map>
 #include <string>
@@ -31,6 +32,9 @@ class CallJournal {
     // Every call of this name fails from now on, until Success is given as `error`.
     void FailAlways(const std::string& name, ErrorCode error = error::AccessDenied);
 
+    // The call of this number, counted from 0 since the last Clear, fails; or all from there on.
+    void FailCall(std::size_t number, ErrorCode error, bool allFromThereOn = false);
+
     const std::vector<Call>& Calls() const { return calls_; }
     // The names alone, in order; handy to assert an order of calls.
     std::vector<std::string> Names() const;
@@ -44,6 +48,9 @@ class CallJournal {
     std::vector<Call> calls_;
     std::map<std::string, std::deque<ErrorCode>, std::less<>> nextFailures_;
     std::map<std::string, ErrorCode, std::less<>> lastingFailures_;
+    std::size_t firstFailing_ = SIZE_MAX;
+    std::size_t lastFailing_ = 0;
+    ErrorCode numberedFailure_ = error::Success;
 };
 
 }  // namespace velkarix

@@ -133,6 +133,27 @@ std::optional<SystemTime> MemoryClock::FileTimeToSystemTime(FileTime time) {
     return ToSystemTime(time);
 }
 
+std::string MemoryClock::GetDateFormatA(const SystemTime& time) {
+    journal_.Enter("GetDateFormatA");
+    return std::to_string(time.month) + "/" + std::to_string(time.day) + "/" +
+           std::to_string(time.year);
+}
+
+std::string MemoryClock::GetTimeFormatA(const SystemTime& time) {
+    journal_.Enter("GetTimeFormatA");
+    const auto twoDigits = [](int number) {
+        return (number < 10 ? "0" : "") + std::to_string(number);
+    };
+    const int hour = time.hour % 12 == 0 ? 12 : time.hour % 12;
+    return std::to_string(hour) + ":" + twoDigits(time.minute) + ":" + twoDigits(time.second) +
+           (time.hour < 12 ? " AM" : " PM");
+}
+
+void MemoryClock::Sleep(std::uint32_t milliseconds) {
+    journal_.Enter("Sleep", std::to_string(milliseconds));
+    slept_ += milliseconds;
+}
+
 std::optional<OleDate> MemoryClock::VarDateFromStr(const std::string& text) {
     if (journal_.Enter("VarDateFromStr", text) || !hasAutomation_) {
         return std::nullopt;

@@ -24,11 +24,17 @@ class MemoryClock : public Clock {
     // Whether the system has the automation library; it does at first.
     void SetHasAutomation(bool there) { hasAutomation_ = there; }
 
+    // How long the program slept in all.
+    std::uint32_t SleptMilliseconds() const { return slept_; }
+
     // ---- Clock
     SystemTime GetLocalTime() override;
     std::optional<FileTime> FileTimeToLocalFileTime(FileTime time) override;
     std::optional<SystemTime> FileTimeToSystemTime(FileTime time) override;
     // m/d/yyyy, m/d/yy, yyyy-mm-dd, each also with h:mm, h:mm:ss and AM or PM behind it.
+    std::string GetDateFormatA(const SystemTime& time) override;
+    std::string GetTimeFormatA(const SystemTime& time) override;
+    void Sleep(std::uint32_t milliseconds) override;
     std::optional<OleDate> VarDateFromStr(const std::string& text) override;
 
   private:
@@ -36,6 +42,7 @@ class MemoryClock : public Clock {
     SystemTime now_ = MakeTime(2004, 6, 1, 12);
     int offsetMinutes_ = 0;
     bool hasAutomation_ = true;
+    std::uint32_t slept_ = 0;
 };
 
 }  // namespace velkarix

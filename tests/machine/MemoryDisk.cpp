@@ -140,6 +140,20 @@ std::shared_ptr<MemoryEntry> MemoryDisk::Find(const std::string& path) const {
     return entry && namesAFolder && !entry->IsFolder() ? nullptr : entry;
 }
 
+std::string MemoryDisk::ShortPathOf(const std::string& path) const {
+    const std::optional<Parts> parts = Split(path);
+    if (!parts || !Walk(*parts)) {
+        return {};
+    }
+    std::string shortPath = parts->drive;
+    std::shared_ptr<MemoryEntry> entry = drives_.Find(parts->drive);
+    for (const std::string& level : parts->levels) {
+        entry = Child(*entry, level);
+        shortPath += "\\" + (entry->shortName.empty() ? entry->name : entry->shortName);
+    }
+    return parts->levels.empty() ? shortPath + "\\" : shortPath;
+}
+
 std::shared_ptr<MemoryEntry> MemoryDisk::FindFolderOf(const std::string& path,
                                                       std::string& lastName) const {
     std::optional<Parts> parts = Split(path);
@@ -174,7 +188,8 @@ std::shared_ptr<MemoryEntry> MemoryDisk::Writable(const std::string& path, Error
         return nullptr;
     }
     std::shared_ptr<MemoryEntry> entry = Child(*folder, name);
-    if (entry && (entry->IsFolder() || (entry->attributes & fileAttribute::ReadOnly) != 0)) {
+    if (entry &&
+        (entry->IsFolder() || entry->inUse || (entry->attributes & fileAttribute::ReadOnly) != 0)) {
         error = error::AccessDenied;
         return nullptr;
     }

@@ -33,6 +33,8 @@ class MemoryDisk {
 
     // The entry at a path, by long or short names without case; null when there is none.
     std::shared_ptr<MemoryEntry> Find(const std::string& path) const;
+    // The path of an entry with the 8.3 name of each level that has one; empty when there is none.
+    std::string ShortPathOf(const std::string& path) const;
     // The folder that a path's last level is in, and that level's name; null when there is no
     // such folder.
     std::shared_ptr<MemoryEntry> FindFolderOf(const std::string& path, std::string& lastName) const;

@@ -35,6 +35,11 @@ MemoryEntry& MemoryEntry::Unreadable() {
     return *this;
 }
 
+MemoryEntry& MemoryEntry::InUse(bool now) {
+    inUse = now;
+    return *this;
+}
+
 MemoryEntry& MemoryEntry::ShortName(std::string alias) {
     shortName = std::move(alias);
     return *this;

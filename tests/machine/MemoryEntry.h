@@ -34,6 +34,8 @@ struct MemoryEntry {
     MemoryEntry& Hidden() { return With(fileAttribute::Hidden); }
     // Somebody holds the file open for himself: opening it gives SharingViolation.
     MemoryEntry& Unreadable();
+    // A program that runs from it: it can be read, but neither written nor deleted.
+    MemoryEntry& InUse(bool now = true);
     // The 8.3 name under which it is found as well.
     MemoryEntry& ShortName(std::string alias);
     // A version resource with these fields in US English (040904B0).
@@ -51,6 +53,7 @@ struct MemoryEntry {
     FileTime creationTime = 0;
     Bytes content;
     bool unreadable = false;
+    bool inUse = false;
     Bytes versionBlock;
     std::map<int, std::pair<Picture, Picture>> icons;  // large and small
     NamedList<MemoryEntry> children{ListOrder::Sorted};

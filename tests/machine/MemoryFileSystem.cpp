@@ -102,6 +102,54 @@ bool MemoryFileSystem::IsBeingWritten(const MemoryEntry& entry) const {
     });
 }
 
+ErrorCode MemoryFileSystem::CopyFileA(const std::string& from, const std::string& to) {
+    if (const ErrorCode failure = journal_.Enter("CopyFileA", from + ", " + to)) {
+        return failure;
+    }
+    ErrorCode failure = error::Success;
+    const auto source = disk_.Readable(from, failure);
+    const auto target = source ? disk_.Writable(to, failure) : nullptr;
+    if (!target) {
+        return failure;
+    }
+    if (source == target) {
+        return error::SharingViolation;
+    }
+    // A disk that fills up keeps the part that it took.
+    const std::size_t count = disk_.TakeSpace(source->content.size());
+    target->content.assign(source->content.begin(),
+                           source->content.begin() + static_cast<std::ptrdiff_t>(count));
+    target->attributes = source->attributes;
+    return count == source->content.size() ? error::Success : error::DiskFull;
+}
+
+ErrorCode MemoryFileSystem::DeleteFileA(const std::string& path) {
+    if (const ErrorCode failure = journal_.Enter("DeleteFileA", path)) {
+        return failure;
+    }
+    ErrorCode failure = error::Success;
+    // What can't be written can't be deleted either, for the same reasons.
+    if (!disk_.Readable(path, failure) || !disk_.Writable(path, failure)) {
+        return failure;
+    }
+    disk_.Remove(path);
+    return error::Success;
+}
+
+std::string MemoryFileSystem::GetShortPathNameA(const std::string& path, std::uint32_t capacity) {
+    const bool fails = journal_.Enter("GetShortPathNameA", path) != error::Success;
+    const std::string shortPath = fails ? std::string() : disk_.ShortPathOf(path);
+    return shortPath.size() < capacity ? shortPath : std::string();
+}
+
+bool MemoryFileSystem::MoveFileExA(const std::string& path) {
+    if (journal_.Enter("MoveFileExA", path) || family_ != Family::WindowsNt || path.empty()) {
+        return false;
+    }
+    deletedAtNextStart_.push_back(path);
+    return true;
+}
+
 ErrorCode MemoryFileSystem::CreateFileA(const std::string& path, FileUse use, FileHandle& file) {
     if (const ErrorCode failure = journal_.Enter("CreateFileA", path)) {
         return failure;

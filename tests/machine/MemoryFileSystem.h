@@ -9,6 +9,7 @@
 #include "platform/FileSystem.h"
 #include "tests/machine/CallJournal.h"
 #include "tests/machine/MemoryDisk.h"
+#include "tests/machine/NamedSystem.h"
 
 namespace velkarix {
 
@@ -22,6 +23,11 @@ class MemoryFileSystem : public FileSystem {
     std::size_t OpenFileCount() const { return files_.size(); }
     std::size_t OpenSearchCount() const { return searches_.size(); }
 
+    // What is to be deleted at the next start, in the order that it was asked for.
+    const std::vector<std::string>& DeletedAtNextStart() const { return deletedAtNextStart_; }
+    // Whether the system can delete at its next start, as the NT family does; it can at first.
+    void SetFamily(Family family) { family_ = family; }
+
     // ---- FileSystem
     SearchHandle FindFirstFileA(const std::string& pattern, FoundFile& found) override;
     bool FindNextFileA(SearchHandle search, FoundFile& found) override;
@@ -29,6 +35,10 @@ class MemoryFileSystem : public FileSystem {
     std::optional<bool> PathFileExistsA(const std::string& path) override;
     std::uint32_t GetFileAttributesA(const std::string& path) override;
     ErrorCode CreateDirectoryA(const std::string& path) override;
+    ErrorCode CopyFileA(const std::string& from, const std::string& to) override;
+    ErrorCode DeleteFileA(const std::string& path) override;
+    std::string GetShortPathNameA(const std::string& path, std::uint32_t capacity) override;
+    bool MoveFileExA(const std::string& path) override;
     ErrorCode CreateFileA(const std::string& path, FileUse use, FileHandle& file) override;
     std::optional<std::uint64_t> GetFileSize(FileHandle file) override;
     ErrorCode ReadFile(FileHandle file, std::span<std::uint8_t> buffer,
@@ -53,6 +63,8 @@ class MemoryFileSystem : public FileSystem {
     CallJournal& journal_;
     MemoryDisk& disk_;
     bool hasPathFileExists_ = true;
+    Family family_ = Family::WindowsNt;
+    std::vector<std::string> deletedAtNextStart_;
     std::map<FileHandle, OpenFile> files_;
     std::map<SearchHandle, Search> searches_;
     std::uintptr_t nextHandle_ = 0x1000;

@@ -23,6 +23,7 @@ void MemoryMachine::SetSystem(NamedSystem named) {
     const Family family = FamilyOf(named);
     system.SetSystem(named);
     registry.SetFamily(family);
+    files.SetFamily(family);
     processes.SetFamily(family);
     processes.SetHasPsapi(family == Family::WindowsNt);
     processes.SetHasToolhelp(named != NamedSystem::WindowsNt351 &&

@@ -7,6 +7,9 @@ namespace velkarix {
 namespace {
 
 constexpr std::uint32_t readModulesAccess = 0x0400 | 0x0010;  // query information, read memory
+constexpr std::uint32_t terminateAccess = 0x0001;
+constexpr std::uint32_t queryAccess = 0x0400;
+constexpr std::uint32_t stillActive = 259;
 constexpr std::uint32_t snapshotOfProcesses = 2;
 constexpr std::uintptr_t invalidSnapshot = UINTPTR_MAX;
 constexpr ModuleHandle programModule = 0x00400000;
@@ -21,6 +24,11 @@ MemoryProcess& MemoryProcess::NotOpenable() {
 
 MemoryProcess& MemoryProcess::ModulesUnreadable() {
     modulesReadable = false;
+    return *this;
+}
+
+MemoryProcess& MemoryProcess::Protected() {
+    isProtected = true;
     return *this;
 }
 
@@ -60,7 +68,9 @@ bool MemoryProcesses::EnumProcesses(std::vector<ProcessId>& ids, std::uint32_t& 
 }
 
 ProcessHandle MemoryProcesses::OpenProcess(std::uint32_t access, ProcessId id) {
-    if (journal_.Enter("OpenProcess", std::to_string(access) + ", " + std::to_string(id))) {
+    const std::string arguments = std::to_string(access) + ", " + std::to_string(id);
+    if (const ErrorCode failure = journal_.Enter("OpenProcess", arguments)) {
+        lastError_ = failure;
         return 0;
     }
     const MemoryProcess* process = Find(id);
@@ -69,6 +79,7 @@ ProcessHandle MemoryProcesses::OpenProcess(std::uint32_t access, ProcessId id) {
         process = nullptr;
     }
     if (process == nullptr || !process->openable) {
+        lastError_ = process == nullptr ? error::InvalidParameter : error::AccessDenied;
         return 0;
     }
     nextHandle_ += 4;
@@ -108,6 +119,52 @@ std::string MemoryProcesses::GetModuleFileNameExA(ProcessHandle process, ModuleH
         return {};
     }
     return found->path.substr(0, capacity - 1);
+}
+
+bool MemoryProcesses::MayUse(ProcessHandle handle, std::uint32_t access) {
+    const auto open = processHandles_.find(handle);
+    if (open == processHandles_.end()) {
+        lastError_ = error::InvalidHandle;
+        return false;
+    }
+    const bool may = (open->second.access & access) == access;
+    lastError_ = may ? lastError_ : error::AccessDenied;
+    return may;
+}
+
+std::optional<std::uint32_t> MemoryProcesses::GetExitCodeProcess(ProcessHandle process) {
+    if (const ErrorCode failure = journal_.Enter("GetExitCodeProcess")) {
+        lastError_ = failure;
+        return std::nullopt;
+    }
+    if (!MayUse(process, queryAccess)) {
+        return std::nullopt;
+    }
+    return StoppedWith(processHandles_[process].id).value_or(stillActive);
+}
+
+bool MemoryProcesses::TerminateProcess(ProcessHandle process, std::uint32_t exitCode) {
+    if (const ErrorCode failure = journal_.Enter("TerminateProcess", std::to_string(exitCode))) {
+        lastError_ = failure;
+        return false;
+    }
+    if (!MayUse(process, terminateAccess)) {
+        return false;
+    }
+    const ProcessId id = processHandles_[process].id;
+    const MemoryProcess* running = Find(id);
+    if (running == nullptr || running->isProtected) {
+        lastError_ = error::AccessDenied;
+        return false;
+    }
+    stoppedWith_[id] = exitCode;
+    End(id);
+    return true;
+}
+
+std::optional<std::uint32_t> MemoryProcesses::StoppedWith(ProcessId id) const {
+    const auto found = stoppedWith_.find(id);
+    return found == stoppedWith_.end() ? std::nullopt : std::optional(found->second);
 }
 
 bool MemoryProcesses::CloseHandle(ProcessHandle handle) {

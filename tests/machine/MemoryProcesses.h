@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,8 @@ struct MemoryProcess {
     MemoryProcess& NotOpenable();
     // It opens, but its modules can't be read, as with the system's own processes.
     MemoryProcess& ModulesUnreadable();
+    // The system protects it: it opens, but can't be stopped.
+    MemoryProcess& Protected();
     // It is in every listing, but is gone by the time that anybody opens it.
     MemoryProcess& EndsBeforeOpening();
 
@@ -25,6 +28,7 @@ struct MemoryProcess {
     bool openable = true;
     bool modulesReadable = true;
     bool endsBeforeOpening = false;
+    bool isProtected = false;
 };
 
 class MemoryProcesses : public Processes {
@@ -34,6 +38,8 @@ class MemoryProcesses : public Processes {
     // ---- Set-up and looking
     MemoryProcess& Add(ProcessId id, const std::string& path);
     void End(ProcessId id);
+    // The code that a process was stopped with.
+    std::optional<std::uint32_t> StoppedWith(ProcessId id) const;
     bool IsRunning(ProcessId id) const { return Find(id) != nullptr; }
     // Which libraries the system has; both at first.
     void SetHasPsapi(bool there) { hasPsapi_ = there; }
@@ -49,6 +55,9 @@ class MemoryProcesses : public Processes {
     std::string GetModuleFileNameExA(ProcessHandle process, ModuleHandle module,
                                      std::uint32_t capacity) override;
     ProcessHandle OpenProcess(std::uint32_t access, ProcessId id) override;
+    std::optional<std::uint32_t> GetExitCodeProcess(ProcessHandle process) override;
+    bool TerminateProcess(ProcessHandle process, std::uint32_t exitCode) override;
+    ErrorCode GetLastError() override { return lastError_; }
     bool CloseHandle(ProcessHandle handle) override;
     SnapshotHandle CreateToolhelp32Snapshot(std::uint32_t flags, ProcessId id) override;
     bool Process32First(SnapshotHandle snapshot, ProcessSnapshotEntry& entry) override;
@@ -65,6 +74,8 @@ class MemoryProcesses : public Processes {
     };
 
     const MemoryProcess* Find(ProcessId id) const;
+    // Whether the handle was opened with these rights; else the last error says why not.
+    bool MayUse(ProcessHandle handle, std::uint32_t access);
     // The process behind a handle whose modules may be read with it, or null.
     const MemoryProcess* Readable(ProcessHandle handle) const;
     bool NextEntry(SnapshotHandle snapshot, ProcessSnapshotEntry& entry, bool fromStart);
@@ -73,9 +84,11 @@ class MemoryProcesses : public Processes {
     Family family_ = Family::WindowsNt;
     bool hasPsapi_ = true;
     bool hasToolhelp_ = true;
+    ErrorCode lastError_ = error::Success;
     std::map<ProcessId, MemoryProcess> byId_;
     std::vector<ProcessId> order_;
     std::map<ProcessHandle, OpenProcessHandle> processHandles_;
+    std::map<ProcessId, std::uint32_t> stoppedWith_;
     std::map<SnapshotHandle, Snapshot> snapshots_;
     std::uintptr_t nextHandle_ = 0x400;
 };

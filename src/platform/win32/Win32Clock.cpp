@@ -11,6 +11,15 @@ SystemTime Fields(const SYSTEMTIME& time) {
             time.wHour, time.wMinute, time.wSecond,    time.wMilliseconds};
 }
 
+// Longer than any form of a date or a time.
+constexpr int FormatCapacity = 128;
+
+SYSTEMTIME SystemFields(const SystemTime& time) {
+    const auto word = [](int number) { return static_cast<WORD>(number); };
+    return {word(time.year), word(time.month),  word(time.dayOfWeek), word(time.day),
+            word(time.hour), word(time.minute), word(time.second),    word(time.milliseconds)};
+}
+
 std::wstring WideText(const std::string& text) {
     const int size = static_cast<int>(text.size());
     std::wstring wide(text.size(), L'\0');
@@ -20,6 +29,24 @@ std::wstring WideText(const std::string& text) {
 }
 
 }  // namespace
+
+std::string Win32Clock::GetDateFormatA(const SystemTime& time) {
+    const SYSTEMTIME fields = SystemFields(time);
+    char text[FormatCapacity] = {};
+    ::GetDateFormatA(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &fields, nullptr, text, FormatCapacity);
+    return text;
+}
+
+std::string Win32Clock::GetTimeFormatA(const SystemTime& time) {
+    const SYSTEMTIME fields = SystemFields(time);
+    char text[FormatCapacity] = {};
+    ::GetTimeFormatA(LOCALE_USER_DEFAULT, 0, &fields, nullptr, text, FormatCapacity);
+    return text;
+}
+
+void Win32Clock::Sleep(std::uint32_t milliseconds) {
+    ::Sleep(milliseconds);
+}
 
 SystemTime Win32Clock::GetLocalTime() {
     SYSTEMTIME time;

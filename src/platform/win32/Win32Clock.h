@@ -11,6 +11,9 @@ class Win32Clock : public Clock {
     SystemTime GetLocalTime() override;
     std::optional<FileTime> FileTimeToLocalFileTime(FileTime time) override;
     std::optional<SystemTime> FileTimeToSystemTime(FileTime time) override;
+    std::string GetDateFormatA(const SystemTime& time) override;
+    std::string GetTimeFormatA(const SystemTime& time) override;
+    void Sleep(std::uint32_t milliseconds) override;
     std::optional<OleDate> VarDateFromStr(const std::string& text) override;
 
   private:

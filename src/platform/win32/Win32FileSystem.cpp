@@ -84,6 +84,25 @@ ErrorCode Win32FileSystem::CreateDirectoryA(const std::string& path) {
     return ::CreateDirectoryA(path.c_str(), nullptr) ? error::Success : ::GetLastError();
 }
 
+ErrorCode Win32FileSystem::CopyFileA(const std::string& from, const std::string& to) {
+    return ::CopyFileA(from.c_str(), to.c_str(), FALSE) ? error::Success : ::GetLastError();
+}
+
+ErrorCode Win32FileSystem::DeleteFileA(const std::string& path) {
+    return ::DeleteFileA(path.c_str()) ? error::Success : ::GetLastError();
+}
+
+std::string Win32FileSystem::GetShortPathNameA(const std::string& path, std::uint32_t capacity) {
+    std::string buffer(capacity, '\0');
+    const DWORD length = ::GetShortPathNameA(path.c_str(), buffer.data(), capacity);
+    // A buffer that is too small isn't filled, and the call tells the size that it wants.
+    return length < capacity ? TextOf(buffer.data(), length) : std::string();
+}
+
+bool Win32FileSystem::MoveFileExA(const std::string& path) {
+    return ::MoveFileExA(path.c_str(), nullptr, MOVEFILE_DELAY_UNTIL_REBOOT) != FALSE;
+}
+
 ErrorCode Win32FileSystem::CreateFileA(const std::string& path, FileUse use, FileHandle& file) {
     const HANDLE opened = Open(path, use);
     if (opened == INVALID_HANDLE_VALUE) return ::GetLastError();

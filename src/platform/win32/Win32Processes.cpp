@@ -56,7 +56,24 @@ std::string Win32Processes::GetModuleFileNameExA(ProcessHandle process, ModuleHa
 }
 
 ProcessHandle Win32Processes::OpenProcess(std::uint32_t access, ProcessId id) {
-    return reinterpret_cast<ProcessHandle>(::OpenProcess(access, FALSE, id));
+    const HANDLE process = ::OpenProcess(access, FALSE, id);
+    if (process == nullptr) lastError_ = ::GetLastError();
+    return reinterpret_cast<ProcessHandle>(process);
+}
+
+std::optional<std::uint32_t> Win32Processes::GetExitCodeProcess(ProcessHandle process) {
+    DWORD code = 0;
+    if (!::GetExitCodeProcess(HandleOf(process), &code)) {
+        lastError_ = ::GetLastError();
+        return std::nullopt;
+    }
+    return code;
+}
+
+bool Win32Processes::TerminateProcess(ProcessHandle process, std::uint32_t exitCode) {
+    const BOOL stopped = ::TerminateProcess(HandleOf(process), exitCode);
+    if (!stopped) lastError_ = ::GetLastError();
+    return stopped != FALSE;
 }
 
 bool Win32Processes::CloseHandle(ProcessHandle handle) {

@@ -13,6 +13,9 @@ class Win32Processes : public Processes {
     std::string GetModuleFileNameExA(ProcessHandle process, ModuleHandle module,
                                      std::uint32_t capacity) override;
     ProcessHandle OpenProcess(std::uint32_t access, ProcessId id) override;
+    std::optional<std::uint32_t> GetExitCodeProcess(ProcessHandle process) override;
+    bool TerminateProcess(ProcessHandle process, std::uint32_t exitCode) override;
+    ErrorCode GetLastError() override { return lastError_; }
     bool CloseHandle(ProcessHandle handle) override;
     SnapshotHandle CreateToolhelp32Snapshot(std::uint32_t flags, ProcessId id) override;
     bool Process32First(SnapshotHandle snapshot, ProcessSnapshotEntry& entry) override;
@@ -21,6 +24,7 @@ class Win32Processes : public Processes {
   private:
     bool Step(const char* call, SnapshotHandle snapshot, ProcessSnapshotEntry& entry);
 
+    ErrorCode lastError_ = error::Success;
     SystemLibrary psapi_{"psapi.dll"};
     SystemLibrary kernel_{"kernel32.dll"};
 };

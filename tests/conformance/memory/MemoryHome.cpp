@@ -56,6 +56,7 @@ class MemoryHome : public Home {
         memory_.system.SetVariable(name, value);
     }
     ProcessId OwnProcessId() override { return 1234; }
+    ProcessId StartProcess() override { return memory_.AddProcess(4321, QuietProgram()).id; }
     std::string QuietProgram() override { return "C:\\WINDOWS\\SYSTEM32\\quiet.exe"; }
 
     void MakeMutex(const std::string& name) override { memory_.windows.AddMutex(name); }

@@ -104,6 +104,10 @@ class Win32Home : public Home {
         ::RegCloseKey(key);
     }
     ~Win32Home() override {
+        for (const HANDLE child : children_) {
+            ::TerminateProcess(child, 0);
+            ::CloseHandle(child);
+        }
         for (const HANDLE handle : handles_) {
             ::CloseHandle(handle);
         }
@@ -173,6 +177,17 @@ class Win32Home : public Home {
         SetEnvironmentVariableA(name.c_str(), value.c_str());
     }
     ProcessId OwnProcessId() override { return GetCurrentProcessId(); }
+    ProcessId StartProcess() override {
+        STARTUPINFOA startup = {};
+        startup.cb = sizeof(startup);
+        PROCESS_INFORMATION process = {};
+        // Suspended, it runs for as long as anybody lets it.
+        CreateProcessA(QuietProgram().c_str(), nullptr, nullptr, nullptr, FALSE, CREATE_SUSPENDED,
+                       nullptr, nullptr, &startup, &process);
+        ::CloseHandle(process.hThread);
+        children_.push_back(process.hProcess);
+        return process.dwProcessId;
+    }
     std::string QuietProgram() override { return SystemFolder() + "\\rundll32.exe"; }
 
     void MakeMutex(const std::string& name) override {
@@ -199,6 +214,7 @@ class Win32Home : public Home {
 
     Win32Machine win32_;
     std::string folder_;
+    std::vector<HANDLE> children_;
     std::vector<HANDLE> handles_;
     std::vector<HWND> windows_;
 };
