@@ -4,6 +4,8 @@
 namespace velkarix {
 
 class Button;
+class CheckBox;
+class ColorBox;
 class Frame;
 class Label;
 class LinkLabel;
@@ -18,6 +20,8 @@ class ControlVisitor {
   public:
     virtual ~ControlVisitor() = default;
     virtual void Visit(Button& control) = 0;
+    virtual void Visit(CheckBox& control) = 0;
+    virtual void Visit(ColorBox& control) = 0;
     virtual void Visit(Frame& control) = 0;
     virtual void Visit(Label& control) = 0;
     virtual void Visit(LinkLabel& control) = 0;

@@ -8,8 +8,8 @@ namespace velkarix {
 
 namespace {
 
-bool FireClick(std::string_view event, const Handler& handler) {
-    if (event != "Click" || !handler) return false;
+bool FireEvent(std::string_view event, std::string_view wanted, const Handler& handler) {
+    if (event != wanted || !handler) return false;
     // A copy, since the handler may unload the form that the control stands on.
     const Handler running = handler;
     running();
@@ -29,7 +29,7 @@ LinkLabel::LinkLabel(std::string name, std::string text, Handler onClick)
     : Control(std::move(name), std::move(text)), onClick_(std::move(onClick)) {}
 
 bool LinkLabel::Fire(std::string_view event) {
-    return FireClick(event, onClick_);
+    return FireEvent(event, "Click", onClick_);
 }
 
 void LinkLabel::Accept(ControlVisitor& visitor) {
@@ -45,7 +45,7 @@ void Button::SetPressed(bool pressed) {
 }
 
 bool Button::Fire(std::string_view event) {
-    return FireClick(event, onClick_);
+    return FireEvent(event, "Click", onClick_);
 }
 
 void Button::Accept(ControlVisitor& visitor) {
@@ -78,6 +78,40 @@ void TextBox::Accept(ControlVisitor& visitor) {
     visitor.Visit(*this);
 }
 
+CheckBox::CheckBox(std::string name, std::string text, Handler onClick)
+    : Control(std::move(name), std::move(text)), onClick_(std::move(onClick)) {}
+
+void CheckBox::SetChecked(bool checked) {
+    checked_ = checked;
+    Notify(Aspect::Value);
+}
+
+bool CheckBox::Fire(std::string_view event) {
+    if (event != "Click") return false;
+    SetChecked(!checked_);
+    return FireEvent(event, "Click", onClick_);
+}
+
+void CheckBox::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+
+ColorBox::ColorBox(std::string name, std::string text, Handler onDoubleClick)
+    : Control(std::move(name), std::move(text)), onDoubleClick_(std::move(onDoubleClick)) {}
+
+void ColorBox::SetBoxColor(Color color) {
+    color_ = color;
+    Notify(Aspect::Look);
+}
+
+bool ColorBox::Fire(std::string_view event) {
+    return FireEvent(event, "DblClick", onDoubleClick_);
+}
+
+void ColorBox::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+
 OptionButton::OptionButton(OptionGroup& group, int index, std::string text)
     : Control(group.Name() + "(" + std::to_string(index) + ")", std::move(text)),
       group_(group),
@@ -90,7 +124,7 @@ bool OptionButton::Chosen() const {
 bool OptionButton::Fire(std::string_view event) {
     if (event != "Click") return false;
     group_.Choose(index_);
-    return FireClick(event, group_.onClick_);
+    return FireEvent(event, "Click", group_.onClick_);
 }
 
 void OptionButton::Accept(ControlVisitor& visitor) {

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Color.h"
 #include "base/Picture.h"
 #include "forms/Control.h"
 
@@ -91,6 +92,36 @@ class TextBox : public Control {
   private:
     Shape shape_;
     std::string value_;
+};
+
+class CheckBox : public Control {
+  public:
+    // `onClick` hears of changes by the user.
+    CheckBox(std::string name, std::string text, Handler onClick);
+    bool Checked() const { return checked_; }
+    void SetChecked(bool checked);
+    // "Click": turns the mark round, then runs the handler.
+    bool Fire(std::string_view event) override;
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    Handler onClick_;
+    bool checked_ = false;
+};
+
+// A box filled with one colour. A double click, or Space or Enter on it, raises "DblClick".
+class ColorBox : public Control {
+  public:
+    // `text` says in words what the colour is for.
+    ColorBox(std::string name, std::string text, Handler onDoubleClick);
+    Color BoxColor() const { return color_; }
+    void SetBoxColor(Color color);
+    bool Fire(std::string_view event) override;
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    Handler onDoubleClick_;
+    Color color_ = 0;
 };
 
 class OptionGroup;

@@ -5,13 +5,14 @@
 #include <optional>
 #include <string>
 
+#include "base/Color.h"
 #include "forms/Controls.h"
 #include "forms/Form.h"
 #include "forms/Menu.h"
 
 namespace velkarix {
 
-enum class MessageIcon { Critical, Question, Information };
+enum class MessageIcon { None, Critical, Question, Information };
 enum class MessageButtons { Ok, YesNo };
 enum class MessageAnswer { Ok, Yes, No };
 
@@ -20,6 +21,13 @@ struct Message {
     std::string title;
     MessageIcon icon = MessageIcon::Information;
     MessageButtons buttons = MessageButtons::Ok;
+};
+
+// How a file to write is asked for. An existing one is only given after a question.
+struct SaveRequest {
+    std::string filterName;  // "Text File (*.txt)"
+    std::string pattern;     // "*.txt"
+    std::string fileName;    // what is proposed
 };
 
 class Desktop {
@@ -42,6 +50,10 @@ class Desktop {
     virtual void Focus(Control& control) = 0;
 
     virtual MessageAnswer ShowMessage(const Message& message) = 0;
+    // The full path of the file, or nothing when the user cancels.
+    virtual std::optional<std::string> AskSaveFile(Form& owner, const SaveRequest& request) = 0;
+    // The colour that the user chooses, with `present` chosen at first; nothing on cancel.
+    virtual std::optional<Color> AskColor(Form& owner, Color present) = 0;
     // Shows `menu` at the mouse, or beside the focused row when a key asked for it. Gives the
     // name of the chosen entry, or nothing.
     virtual std::optional<std::string> PopUp(Form& owner, const Menu& menu) = 0;

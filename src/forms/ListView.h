@@ -10,15 +10,13 @@
 #include <string>
 #include <vector>
 
+#include "base/Color.h"
 #include "forms/Control.h"
 #include "forms/ImageList.h"
 
 namespace velkarix {
 
 class ListView;
-
-// A colour as the system's number: the lowest byte is red, next green, next blue.
-using Color = std::uint32_t;
 
 enum class MouseButton { Left = 1, Right = 2 };
 enum class SortOrder { Ascending, Descending };
@@ -69,6 +67,10 @@ class ListView : public Control {
              Handlers handlers);
 
     const std::vector<std::string>& Columns() const { return columns_; }
+    // Whether a box to tick stands in front of each row; it does at first. Said before the list is
+    // shown.
+    bool CheckBoxes() const { return checkBoxes_; }
+    void SetCheckBoxes(bool checkBoxes) { checkBoxes_ = checkBoxes; }
 
     // The new row stands last, or at its place when the list is sorted. It lives until it is
     // removed or the list is cleared.
@@ -116,6 +118,7 @@ class ListView : public Control {
     std::size_t sortKey_ = 0;
     SortOrder order_ = SortOrder::Ascending;
     bool sorted_ = false;
+    bool checkBoxes_ = true;
     bool inOrder_ = true;
     const ImageList* images_ = nullptr;
 };

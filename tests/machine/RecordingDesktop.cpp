@@ -1,5 +1,7 @@
 #include "tests/machine/RecordingDesktop.h"
 
+#include <utility>
+
 namespace velkarix {
 
 void RecordingDesktop::SetApplicationTitle(const std::string& title) {
@@ -45,11 +47,19 @@ MessageAnswer RecordingDesktop::ShowMessage(const Message& message) {
     return answer;
 }
 
+std::optional<std::string> RecordingDesktop::AskSaveFile(Form&, const SaveRequest& request) {
+    saveRequests.push_back(request);
+    return std::exchange(nextSaveFile, std::nullopt);
+}
+
+std::optional<Color> RecordingDesktop::AskColor(Form&, Color present) {
+    colorsShown.push_back(present);
+    return std::exchange(nextColor, std::nullopt);
+}
+
 std::optional<std::string> RecordingDesktop::PopUp(Form& owner, const Menu& menu) {
     menus.push_back({owner.Name(), menu});
-    std::optional<std::string> chosen;
-    chosen.swap(nextMenuChoice);
-    return chosen;
+    return std::exchange(nextMenuChoice, std::nullopt);
 }
 
 void RecordingDesktop::RunEventLoop() {

@@ -24,6 +24,8 @@ class RecordingDesktop : public Desktop {
     std::vector<std::string> events;  // "create frmMain", "show frmMain", "focus lstvProcess", ...
     std::vector<Message> messages;
     std::vector<ShownMenu> menus;
+    std::vector<SaveRequest> saveRequests;
+    std::vector<Color> colorsShown;  // what a colour dialog had chosen at first
     int yields = 0;
     bool quit = false;
 
@@ -31,6 +33,8 @@ class RecordingDesktop : public Desktop {
     // the entry chosen in the next popup, what happens in a dialog, in the event loop, in a yield.
     std::deque<MessageAnswer> answers;
     std::optional<std::string> nextMenuChoice;
+    std::optional<std::string> nextSaveFile;
+    std::optional<Color> nextColor;
     std::function<void(Form&)> onModal;
     std::function<void()> onEventLoop;
     std::function<void()> onYield;
@@ -46,6 +50,8 @@ class RecordingDesktop : public Desktop {
     std::uintptr_t HandleOf(const Form& form) override;
     void Focus(Control& control) override;
     MessageAnswer ShowMessage(const Message& message) override;
+    std::optional<std::string> AskSaveFile(Form& owner, const SaveRequest& request) override;
+    std::optional<Color> AskColor(Form& owner, Color present) override;
     std::optional<std::string> PopUp(Form& owner, const Menu& menu) override;
     void RunEventLoop() override;
     void Quit() override { quit = true; }

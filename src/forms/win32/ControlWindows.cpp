@@ -3,6 +3,8 @@
 #include "forms/ControlVisitor.h"
 #include "forms/win32/AreaWindows.h"
 #include "forms/win32/ButtonWindows.h"
+#include "forms/win32/CheckBoxWindow.h"
+#include "forms/win32/ColorBoxWindow.h"
 #include "forms/win32/LinkWindow.h"
 #include "forms/win32/ListViewWindow.h"
 #include "forms/win32/PictureButtonWindow.h"
@@ -25,6 +27,8 @@ class Maker : public ControlVisitor {
             Make<CommandButtonWindow>(control);
         }
     }
+    void Visit(CheckBox& control) override { Make<CheckBoxWindow>(control); }
+    void Visit(ColorBox& control) override { Make<ColorBoxWindow>(control); }
     void Visit(Frame& control) override { Make<FrameWindow>(control); }
     void Visit(Label& control) override { Make<LabelWindow>(control); }
     void Visit(LinkLabel& control) override { Make<LinkWindow>(control); }

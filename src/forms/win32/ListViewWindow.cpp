@@ -12,7 +12,7 @@ namespace {
 constexpr int ImageSizeAt96 = 16;
 // A list that composes off screen, where the common controls can (version 6).
 constexpr DWORD DoubleBuffered = 0x00010000;
-constexpr DWORD ExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_CHECKBOXES | DoubleBuffered;
+constexpr DWORD ExtendedStyle = LVS_EX_FULLROWSELECT | DoubleBuffered;
 constexpr DWORD Style = WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS;
 
 }  // namespace
@@ -22,7 +22,10 @@ ListViewWindow::ListViewWindow(DesktopContext& context, ListView& list, const Co
       list_(list),
       images_(context.instance, context.dpi.Pixels(ImageSizeAt96)) {
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, ExtendedStyle, ExtendedStyle);
-    Send(LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK);
+    if (list.CheckBoxes()) {
+        Send(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
+        Send(LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK);
+    }
     InsertColumns(Handle(), list);
     context.pending.Add(*this);
 }
@@ -173,7 +176,7 @@ bool ListViewWindow::ToggleIfOnCheckBox(const POINT& point) {
 
 void ListViewWindow::Toggle(int position) {
     ListRow* row = RowAt(list_, position);
-    if (row == nullptr) return;
+    if (row == nullptr || !list_.CheckBoxes()) return;
     list_.UserCheck(*row, !row->Checked());
     Send(LVM_REDRAWITEMS, static_cast<WPARAM>(position), position);
 }

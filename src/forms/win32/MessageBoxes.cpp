@@ -6,6 +6,8 @@ namespace {
 
 UINT IconFlag(MessageIcon icon) {
     switch (icon) {
+        case MessageIcon::None:
+            return 0;
         case MessageIcon::Critical:
             return MB_ICONHAND;
         case MessageIcon::Question:

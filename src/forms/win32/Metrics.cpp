@@ -53,6 +53,20 @@ void Metrics::Visit(Button& control) {
              std::max(dpi_.Pixels(23), caption.height + dpi_.Pixels(8))};
 }
 
+// A caption with a mark to the left of it.
+Size Metrics::MarkedCaption(const Control& control) const {
+    const Size caption = CaptionExtent(fonts_.Dialog(), control.Text());
+    return {caption.width + dpi_.Pixels(24), std::max(dpi_.Pixels(17), caption.height)};
+}
+
+void Metrics::Visit(CheckBox& control) {
+    size_ = MarkedCaption(control);
+}
+
+void Metrics::Visit(ColorBox&) {
+    size_ = {dpi_.Pixels(48), dpi_.Pixels(20)};
+}
+
 void Metrics::Visit(Frame&) {
     const int edge = dpi_.Pixels(9);
     insets_ = {edge, CaptionExtent(fonts_.Dialog(), {}).height + dpi_.Pixels(6), edge, edge};
@@ -82,8 +96,7 @@ void Metrics::Visit(ListView&) {
 }
 
 void Metrics::Visit(OptionButton& control) {
-    const Size caption = CaptionExtent(fonts_.Dialog(), control.Text());
-    size_ = {caption.width + dpi_.Pixels(24), std::max(dpi_.Pixels(17), caption.height)};
+    size_ = MarkedCaption(control);
 }
 
 // The page on view has what room is left.

@@ -24,7 +24,10 @@ class Metrics : public LayoutMetrics, private ControlVisitor {
     int ButtonPadding() const { return dpi_.Pixels(2); }  // around icon and text of such a button
 
   private:
+    Size MarkedCaption(const Control& control) const;
     void Visit(Button& control) override;
+    void Visit(CheckBox& control) override;
+    void Visit(ColorBox& control) override;
     void Visit(Frame& control) override;
     void Visit(Label& control) override;
     void Visit(LinkLabel& control) override;

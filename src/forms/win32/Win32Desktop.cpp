@@ -3,12 +3,14 @@
 #include <vector>
 
 #include "forms/win32/ApplicationWindow.h"
+#include "forms/win32/ColorDialog.h"
 #include "forms/win32/EventLoop.h"
 #include "forms/win32/FormFrame.h"
 #include "forms/win32/FormWindows.h"
 #include "forms/win32/LateCalls.h"
 #include "forms/win32/MessageBoxes.h"
 #include "forms/win32/PopupMenus.h"
+#include "forms/win32/SaveDialog.h"
 #include "forms/win32/WindowClasses.h"
 #include "forms/win32/WindowTree.h"
 
@@ -26,9 +28,15 @@ struct Win32Desktop::Windows {
     FormWindows forms{context};
     ApplicationWindow application{context, forms};
     EventLoop loop{context, forms};
+    ColorDialog colorDialog;
     std::vector<HWND> dialogs;  // shown modally, the top one last
 
     HWND HostOf(const FormWindow& page) const { return GetParent(page.Handle()); }
+    // The top-level window that `form` is or stands in; null when the form isn't created.
+    HWND TopLevelAround(const Form& form) const {
+        const FormWindow* window = forms.Of(form);
+        return window != nullptr ? TopLevelOf(window->Handle()) : nullptr;
+    }
     FormWindow* FormAround(HWND window) const { return forms.WithHandle(TopLevelOf(window)); }
 
     // Owns what the user is asked now: the top dialog, else the main form; null when hidden.
@@ -122,14 +130,27 @@ MessageAnswer Win32Desktop::ShowMessage(const Message& message) {
     return ShowMessageBox(windows_->AskingWindow(), message);
 }
 
+std::optional<std::string> Win32Desktop::AskSaveFile(Form& owner, const SaveRequest& request) {
+    const HWND around = windows_->TopLevelAround(owner);
+    if (around == nullptr) return std::nullopt;
+    windows_->context.pending.Run();
+    return AskSavePath(around, request);
+}
+
+std::optional<Color> Win32Desktop::AskColor(Form& owner, Color present) {
+    const HWND around = windows_->TopLevelAround(owner);
+    if (around == nullptr) return std::nullopt;
+    windows_->context.pending.Run();
+    return windows_->colorDialog.Ask(around, present);
+}
+
 std::optional<std::string> Win32Desktop::PopUp(Form& owner, const Menu& menu) {
-    const FormWindow* window = windows_->forms.Of(owner);
-    if (window == nullptr) return std::nullopt;
+    const HWND around = windows_->TopLevelAround(owner);
+    if (around == nullptr) return std::nullopt;
     windows_->context.pending.Run();
     const DWORD mouse = GetMessagePos();
     const POINT atMouse{static_cast<short>(LOWORD(mouse)), static_cast<short>(HIWORD(mouse))};
-    return TrackPopup(TopLevelOf(window->Handle()), menu,
-                      windows_->context.popupPoint.value_or(atMouse));
+    return TrackPopup(around, menu, windows_->context.popupPoint.value_or(atMouse));
 }
 
 void Win32Desktop::RunEventLoop() {

@@ -23,6 +23,8 @@ class Win32Desktop : public Desktop {
     std::uintptr_t HandleOf(const Form& form) override;
     void Focus(Control& control) override;
     MessageAnswer ShowMessage(const Message& message) override;
+    std::optional<std::string> AskSaveFile(Form& owner, const SaveRequest& request) override;
+    std::optional<Color> AskColor(Form& owner, Color present) override;
     std::optional<std::string> PopUp(Form& owner, const Menu& menu) override;
     void RunEventLoop() override;
     void Quit() override;
