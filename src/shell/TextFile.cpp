@@ -7,6 +7,22 @@
 
 namespace velkarix {
 
+namespace {
+
+ErrorCode Write(FileSystem& files, const std::string& path, FileUse use, std::string_view text) {
+    FileHandle file = 0;
+    const ErrorCode opened = files.CreateFileA(path, use, file);
+    if (opened != error::Success) return opened;
+    std::uint32_t written = 0;
+    const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
+    const ErrorCode result = files.WriteFile(file, std::span(bytes, text.size()), written);
+    files.CloseFile(file);
+    if (result != error::Success) return result;
+    return written == text.size() ? error::Success : error::HandleDiskFull;
+}
+
+}  // namespace
+
 std::optional<std::string> ReadTextFile(FileSystem& files, const std::string& path) {
     constexpr std::size_t BlockSize = 64 * 1024;
 
@@ -25,16 +41,18 @@ std::optional<std::string> ReadTextFile(FileSystem& files, const std::string& pa
     return text;
 }
 
+std::optional<std::string> ReadFirstLine(FileSystem& files, const std::string& path) {
+    const std::optional<std::string> text = ReadTextFile(files, path);
+    if (!text || text->empty()) return std::nullopt;
+    return text->substr(0, text->find_first_of("\r\n"));
+}
+
 ErrorCode WriteTextFile(FileSystem& files, const std::string& path, std::string_view text) {
-    FileHandle file = 0;
-    const ErrorCode opened = files.CreateFileA(path, FileUse::Replace, file);
-    if (opened != error::Success) return opened;
-    std::uint32_t written = 0;
-    const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
-    const ErrorCode result = files.WriteFile(file, std::span(bytes, text.size()), written);
-    files.CloseFile(file);
-    if (result != error::Success) return result;
-    return written == text.size() ? error::Success : error::HandleDiskFull;
+    return Write(files, path, FileUse::Replace, text);
+}
+
+ErrorCode AppendTextFile(FileSystem& files, const std::string& path, std::string_view text) {
+    return Write(files, path, FileUse::Append, text);
 }
 
 std::vector<std::string> SplitLines(std::string_view text) {

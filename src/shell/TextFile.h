@@ -12,9 +12,13 @@ namespace velkarix {
 
 // The file's bytes; nothing when it can't be opened or read to its end.
 std::optional<std::string> ReadTextFile(FileSystem& files, const std::string& path);
+// The file's first line without its end; nothing when the file is empty or can't be read.
+std::optional<std::string> ReadFirstLine(FileSystem& files, const std::string& path);
 // Replaces the file. The code of what failed, or Success; a disk that takes less than all of the
 // text is HandleDiskFull.
 ErrorCode WriteTextFile(FileSystem& files, const std::string& path, std::string_view text);
+// Writes behind the file's end and makes it when missing; results as above.
+ErrorCode AppendTextFile(FileSystem& files, const std::string& path, std::string_view text);
 // The lines of a text without their ends, which are CR LF, CR or LF. A last line without an end
 // counts, an empty text has none.
 std::vector<std::string> SplitLines(std::string_view text);

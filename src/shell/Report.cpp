@@ -1,0 +1,122 @@
+#include "shell/Report.h"
+
+#include <optional>
+
+#include "base/Text.h"
+#include "shell/ShellOpen.h"
+#include "shell/TextFile.h"
+#include "shell/clsProcess.h"
+#include "shell/clsSysInfo.h"
+
+namespace velkarix {
+
+namespace {
+
+// In the order of the facts' rows.
+constexpr ReportLine VersionLines[] = {
+    {"Product Name      : ", ReportValue::Fact, 0},
+    {"Product Version   : ", ReportValue::Fact, 1},
+    {"File Description  : ", ReportValue::Fact, 2},
+    {"File Version      : ", ReportValue::Fact, 3},
+    {"Internal Name     : ", ReportValue::Fact, 4},
+    {"Original Filename : ", ReportValue::Fact, 5},
+    {"Comments          : ", ReportValue::Fact, 6},
+    {"Company Name      : ", ReportValue::Fact, 7},
+    {"Legal Copyright   : ", ReportValue::Fact, 8},
+    {"Legal Trademarks  : ", ReportValue::Fact, 9},
+    {"Private Build     : ", ReportValue::Fact, 10},
+    {"Special Build     : ", ReportValue::Fact, 11},
+};
+
+// One row's block, made line by line.
+class RowBlock {
+  public:
+    RowBlock(const ListRow& row, const clsProcess& facts, const Appearance& appearance)
+        : row_(row), facts_(facts), appearance_(appearance) {}
+
+    void Add(std::span<const ReportLine> lines) {
+        for (const ReportLine& line : lines) {
+            text_ += line.label + ValueOf(line) + std::string(LineBreak);
+        }
+    }
+    const std::string& Text() const { return text_; }
+
+  private:
+    std::string ValueOf(const ReportLine& line) const {
+        if (line.value == ReportValue::Fact) return facts_.getItem(line.index);
+        const std::string& text = row_.Text(static_cast<std::size_t>(line.index));
+        const bool marked =
+            line.value == ReportValue::ColumnWithRisk && row_.TextColor() == appearance_.SusColor;
+        return marked ? text + " *******[Risk]*******" : text;
+    }
+
+    const ListRow& row_;
+    const clsProcess& facts_;
+    const Appearance& appearance_;
+    std::string text_;
+};
+
+}  // namespace
+
+std::span<const ReportLine> VersionBlock() {
+    return VersionLines;
+}
+
+void WriteReportHeader(Application& application, const std::string& path,
+                       const std::string& title) {
+    clsSysInfo system(application.machine.system, application.registry);
+    const SystemDescription facts = system.sysInfo();
+    Clock& clock = application.machine.clock;
+    const SystemTime now = clock.GetLocalTime();
+    const std::string lines[] = {
+        title + " " + ApplicationTitle,
+        "Version                       : " + ApplicationVersion(),
+        "Date                          : " + clock.GetDateFormatA(now) + " " +
+            clock.GetTimeFormatA(now),
+        "",
+        "Computer Name        : " + facts.computerName,
+        "User Name            : " + facts.userName,
+        "Windows Version      : " + facts.windowsName,
+        "Windows Build        : " + facts.windowsBuild,
+        "Windows Service Pack : " + facts.servicePack,
+        "Internet Explorer    : " + facts.explorerVersion,
+        "",
+    };
+    std::string text;
+    for (const std::string& line : lines) text.append(line).append(LineBreak);
+    WriteTextFile(application.machine.files, path, text);
+}
+
+ErrorCode AppendReport(Application& application, ListView& list, std::span<const ReportLine> lines,
+                       const std::function<std::string(const ListRow&)>& filePath,
+                       const std::string& path) {
+    clsProcess facts(application.machine);
+    std::string text;
+    for (std::size_t i = 0; i < list.RowCount(); ++i) {
+        const ListRow& row = list.Row(i);
+        facts.GetFileDescription(filePath(row));
+        RowBlock block(row, facts, application.appearance);
+        block.Add(lines);
+        block.Add(VersionBlock());
+        if (i > 0) text.append(LineBreak);
+        text += block.Text();
+    }
+    return AppendTextFile(application.machine.files, path, text);
+}
+
+void RunReportCommand(Application& application, Form& owner, const ListView& list,
+                      const ReportCommand& command,
+                      const std::function<void(const std::string&)>& print) {
+    if (list.RowCount() == 0) {
+        application.Tell(MessageIcon::Information, command.emptyMessage);
+        return;
+    }
+    const std::optional<std::string> path =
+        application.desktop.AskSaveFile(owner, {"Text File (*.txt)", "*.txt", command.fileName});
+    if (!path) return;
+    WriteReportHeader(application, *path, command.title);
+    print(*path);
+    ShellOpen(application.machine.shell, *path);
+}
+
+}  // namespace velkarix

@@ -1,0 +1,54 @@
+// Reports: a text file with the facts of the machine and, for each row of a list, lines of labels
+// and values, opened in the user's viewer when it is done.
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string>
+
+#include "forms/ListView.h"
+#include "shell/Application.h"
+
+namespace velkarix {
+
+// What the report command of a list says and proposes.
+struct ReportCommand {
+    const char* emptyMessage;  // when the list has no rows
+    const char* fileName;      // proposed in the save dialog
+    const char* title;         // of the report; the product's name follows it
+};
+
+// What stands behind the label of a line.
+enum class ReportValue {
+    Column,          // the text of a column
+    ColumnWithRisk,  // the same, with the mark of a suspicious row
+    Fact,            // a row of the file's facts
+};
+
+struct ReportLine {
+    const char* label;
+    ReportValue value;
+    int index;  // of the column or the fact
+};
+
+// The twelve lines of a file's version facts, in the order and with the labels of all reports.
+std::span<const ReportLine> VersionBlock();
+
+// Makes or empties the file and writes the common header. A failure is silent: the list's own
+// writer, which comes next, fails in its own way.
+void WriteReportHeader(Application& application, const std::string& path, const std::string& title);
+
+// Appends a block of `lines`, then the version block, for each row in the shown order, with an
+// empty line between two rows. `filePath` gives the file of a row. The code of what failed, or
+// Success; what was written up to there stays.
+ErrorCode AppendReport(Application& application, ListView& list, std::span<const ReportLine> lines,
+                       const std::function<std::string(const ListRow&)>& filePath,
+                       const std::string& path);
+
+// The steps of every report command: asks for the file, writes the header, has the list written
+// by `print`, and opens the file. Nothing is written when the user cancels.
+void RunReportCommand(Application& application, Form& owner, const ListView& list,
+                      const ReportCommand& command,
+                      const std::function<void(const std::string&)>& print);
+
+}  // namespace velkarix
