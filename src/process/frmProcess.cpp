@@ -20,6 +20,7 @@ frmProcess::frmProcess(Application& application, VerdictCache& verdictCache)
       application_(application),
       verdictCache_(verdictCache),
       fileInfo_(application.machine),
+      backup_(application),
       lstvProcess_("lstvProcess", "Running processes", ProcessColumnCaptions(),
                    {[this](ListRow& row) { lstvProcess_ItemClick(row); },
                     [this](int column) { lstvProcess_ColumnClick(column); },

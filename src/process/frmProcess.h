@@ -7,6 +7,7 @@
 #include "forms/Form.h"
 #include "forms/ImageList.h"
 #include "forms/ListView.h"
+#include "process/ProcessBackup.h"
 #include "process/SafeList.h"
 #include "process/VerdictCache.h"
 #include "shell/Application.h"
@@ -35,6 +36,8 @@ class frmProcess : public Form {
     void cmdReport_Click();
     void cmdRefresh_Click();
     void cmdOpen_Click();
+    // Appends all rows in the shown order to a report. False, after a message, when it can't.
+    bool printReport(const std::string& fileName);
 
   private:
     void MakeLayout();
@@ -45,11 +48,15 @@ class frmProcess : public Form {
     void AddProcessRow(const std::string& path, const std::string& name, ProcessId id,
                        bool suspicious);
     void SetMenuEntries();
+    bool Confirmed(const char* question, const ListRow& row);
+    // True when the process was stopped.
+    bool killProcess(const ListRow& row);
 
     Application& application_;
     VerdictCache& verdictCache_;
     SafeProcesses safeProcessList_;
     clsProcess fileInfo_;
+    ProcessBackup backup_;
     bool filterOn_ = true;
 
     ListView lstvProcess_;
