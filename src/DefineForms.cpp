@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "options/frmOptions.h"
 #include "process/VerdictCache.h"
 #include "process/frmProcess.h"
 #include "shell/Application.h"
@@ -25,8 +26,10 @@ struct ToCome {
     const char* what;
 };
 const ToCome PagesToCome[] = {
-    {"frmIE", "Internet Explorer"}, {"frmStartup", "Startup"},     {"frmAddRemove", "Add/Remove"},
-    {"frmOptions", "Options"},      {"frmUtilities", "Utilities"},
+    {"frmIE", "Internet Explorer"},
+    {"frmStartup", "Startup"},
+    {"frmAddRemove", "Add/Remove"},
+    {"frmUtilities", "Utilities"},
 };
 
 }  // namespace
@@ -34,6 +37,7 @@ const ToCome PagesToCome[] = {
 void DefineForms(Application& application) {
     DefineForm<frmMain>(application, "frmMain");
     DefineForm<frmAbout>(application, "frmAbout");
+    DefineForm<frmOptions>(application, "frmOptions");
     DefineForm<frmviewInfo>(application, "frmviewInfo");
     // The cache lives as long as the program: a page that is left and entered hashes nothing again.
     application.forms.Define("frmProcess",

@@ -1,0 +1,49 @@
+// The options page: the legend of colours, the full report, and the backups of deleted files.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/Controls.h"
+#include "forms/Form.h"
+#include "forms/ListView.h"
+#include "shell/Application.h"
+
+namespace velkarix {
+
+class frmOptions : public Form {
+  public:
+    explicit frmOptions(Application& application);
+
+    void Form_Load() override;
+
+    void LoadBackupList();
+    void chkFontBold_Click();
+    void chkDelete_Click();
+    void cmdrestore_Click();
+    void cmdDelete_Click();
+
+  private:
+    void MakeLayout();
+    void ColorBox_DblClick(std::size_t box);
+    void AddBackupRow(const std::string& path, const std::string& date, const std::string& prcName);
+    std::string BackupFile(const std::string& name);
+    void DeleteSet(const std::string& first, const std::string& second);
+
+    Application& application_;
+
+    Frame fmLegend_;
+    std::vector<std::unique_ptr<ColorBox>> colorBoxes_;
+    std::vector<std::unique_ptr<Label>> colorLabels_;
+    CheckBox chkFontBold_;
+    Frame fmReport_;
+    Label lblReport_;
+    Frame fmBackup_;
+    ListView lstvBackup_;
+    CheckBox chkDelete_;
+    Button cmdrestore_;
+    Button cmdDelete_;
+};
+
+}  // namespace velkarix

@@ -1,0 +1,323 @@
+#include "options/frmOptions.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/machine/TestProgram.h"
+
+namespace velkarix {
+namespace {
+
+using RowTexts = std::vector<std::string>;
+constexpr const char* Path = "C:\\Tools\\bad.exe";
+
+class OptionsPageTest : public testing::Test {
+  protected:
+    void Open() {
+        if (program.application.forms.Loaded("frmMain") == nullptr) program.Start();
+        program.Get<Button>("frmMain", "cmdProcess").Raise("Click");
+        program.Get<Button>("frmMain", "cmdOptions").Raise("Click");
+    }
+    ListView& List() { return program.Get<ListView>("frmOptions", "lstvBackup"); }
+    bool Click(const char* control) {
+        return program.application.forms.Loaded("frmOptions")->Find(control)->Raise("Click");
+    }
+    void DoubleClick(const char* box) {
+        program.Get<ColorBox>("frmOptions", box).Raise("DblClick");
+    }
+    std::string Setting(const char* key) {
+        return program.application.settings.ReadIni("Main", key, "(missing)");
+    }
+    void AddBackup(const std::string& stem, const std::string& line,
+                   const std::string& content = "the program") {
+        program.AddInstalledFile("Backup\\" + stem + ".prc").Content(line);
+        program.AddInstalledFile("Backup\\" + stem + ".bup").Content(content);
+    }
+    std::string Content(const std::string& path) {
+        return program.machine.disk.ContentOf(path).value_or("(no file)");
+    }
+    std::string Copy(const std::string& stem) {
+        return Content("C:\\Velkarix\\Backup\\" + stem + ".bup");
+    }
+    RowTexts Told() {
+        RowTexts texts;
+        for (const Message& each : program.desktop.messages) texts.push_back(each.text);
+        return texts;
+    }
+    void SelectFirst() { List().UserSelect(&List().Row(0)); }
+
+    TestProgram program;
+    const std::string record = std::string(Path) + "\x01" + "6/1/2004\r\n";
+};
+
+TEST_F(OptionsPageTest, ShowsTheColoursThatAreInForce) {
+    program.AddInstalledFile("Settings.ini")
+        .Content(
+            "[Main]\r\nSusColor=1\r\nDisColor=2\r\nSusDisColor=3\r\nFontBold=0\r\n"
+            "Delete=1\r\n");
+    Open();
+    EXPECT_EQ(program.Get<ColorBox>("frmOptions", "picSuspicious").BoxColor(), 1u);
+    EXPECT_EQ(program.Get<ColorBox>("frmOptions", "picDisabled").BoxColor(), 2u);
+    EXPECT_EQ(program.Get<ColorBox>("frmOptions", "picSusDis").BoxColor(), 3u);
+    EXPECT_FALSE(program.Get<CheckBox>("frmOptions", "chkFontBold").Checked());
+    EXPECT_TRUE(program.Get<CheckBox>("frmOptions", "chkDelete").Checked());
+}
+
+TEST_F(OptionsPageTest, SetsPaintsAndWritesAChosenColour) {
+    Open();
+    const std::pair<const char*, const char*> boxes[] = {
+        {"picSuspicious", "SusColor"}, {"picDisabled", "DisColor"}, {"picSusDis", "SusDisColor"}};
+    Color color = 0x00FF8040;
+    for (const auto& [box, key] : boxes) {
+        program.desktop.nextColor = ++color;
+        DoubleClick(box);
+        EXPECT_EQ(program.Get<ColorBox>("frmOptions", box).BoxColor(), color);
+        EXPECT_EQ(Setting(key), std::to_string(color));
+    }
+    EXPECT_EQ(program.application.appearance.SusColor, color - 2);
+    EXPECT_EQ(program.application.appearance.DisColor, color - 1);
+    EXPECT_EQ(program.application.appearance.SusDisColor, color);
+    EXPECT_EQ(program.desktop.colorsShown, (std::vector<Color>{255, 8421504, 64}));
+}
+
+TEST_F(OptionsPageTest, ChangesNothingWhenTheUserCancels) {
+    Open();
+    DoubleClick("picSuspicious");
+    EXPECT_EQ(Setting("SusColor"), "(missing)");
+    EXPECT_EQ(program.application.appearance.SusColor, 255u);
+}
+
+TEST_F(OptionsPageTest, SwitchesBoldAndWritesIt) {
+    Open();
+    Click("chkFontBold");
+    EXPECT_EQ(program.application.appearance.FontBold, 0);
+    EXPECT_EQ(Setting("FontBold"), "0");
+    Click("chkFontBold");
+    EXPECT_EQ(program.application.appearance.FontBold, 1);
+    EXPECT_EQ(Setting("FontBold"), "1");
+}
+
+TEST_F(OptionsPageTest, WritesWhetherBackupsGoAfterRestoring) {
+    Open();
+    EXPECT_FALSE(program.Get<CheckBox>("frmOptions", "chkDelete").Checked());
+    Click("chkDelete");
+    EXPECT_EQ(Setting("Delete"), "1");
+    Open();
+    EXPECT_TRUE(program.Get<CheckBox>("frmOptions", "chkDelete").Checked());
+}
+
+TEST_F(OptionsPageTest, ListsTheBackups) {
+    AddBackup("1", record);
+    Open();
+    ASSERT_EQ(List().RowCount(), 1u);
+    const ListRow& row = List().Row(0);
+    EXPECT_EQ(row.Key(), "1.prc");
+    EXPECT_EQ(row.Text(0), "6/1/2004");
+    EXPECT_EQ(row.Text(1), "bad.exe");
+    EXPECT_EQ(row.Text(2), "C:\\Tools\\");
+}
+
+TEST_F(OptionsPageTest, PassesOverRecordsThatAreNone) {
+    AddBackup("1", "");
+    AddBackup("2", "no field mark\r\n" + record);
+    AddBackup("3", std::string(1024 * 1024, 'x'));
+    program.AddInstalledFile("Backup\\4.txt").Content(record);
+    Open();
+    EXPECT_EQ(List().RowCount(), 0u);
+    EXPECT_EQ(Copy("1"), "the program");
+    EXPECT_TRUE(Told().empty());
+}
+
+TEST_F(OptionsPageTest, ShowsARecordOfAMegabyteInItsLine) {
+    AddBackup("1", "C:\\" + std::string(1024 * 1024, 'x') + "\\a.exe\x01" + "date\r\n");
+    Open();
+    ASSERT_EQ(List().RowCount(), 1u);
+    EXPECT_EQ(List().Row(0).Text(1), "a.exe");
+    SelectFirst();
+    Click("cmdrestore");
+    EXPECT_EQ(Told().size(), 1u);
+    EXPECT_EQ(Copy("1"), "the program");
+}
+
+TEST_F(OptionsPageTest, SplitsAPathOnlyBehindItsFirstCharacter) {
+    AddBackup("1",
+              "\\odd\x01"
+              "d\r\n");
+    Open();
+    EXPECT_EQ(List().Row(0).Text(1), "\\odd");
+    EXPECT_EQ(List().Row(0).Text(2), "");
+}
+
+TEST_F(OptionsPageTest, RestoresAFileAndKeepsTheSet) {
+    program.machine.AddFolder("C:\\Tools");
+    AddBackup("1", record);
+    Open();
+    SelectFirst();
+    Click("cmdrestore");
+    EXPECT_EQ(Told(), (RowTexts{"File restored successfully"}));
+    EXPECT_EQ(program.desktop.messages[0].icon, MessageIcon::Information);
+    EXPECT_EQ(Content(Path), "the program");
+    EXPECT_EQ(Copy("1"), "the program");
+    EXPECT_EQ(List().RowCount(), 1u);
+}
+
+TEST_F(OptionsPageTest, DeletesTheSetAfterRestoringWhenTheUserWantsThat) {
+    program.machine.AddFolder("C:\\Tools");
+    AddBackup("1", record);
+    Open();
+    Click("chkDelete");
+    SelectFirst();
+    Click("cmdrestore");
+    EXPECT_EQ(Content(Path), "the program");
+    EXPECT_EQ(Copy("1"), "(no file)");
+    EXPECT_EQ(Content("C:\\Velkarix\\Backup\\1.prc"), "(no file)");
+    EXPECT_EQ(List().RowCount(), 0u);
+}
+
+TEST_F(OptionsPageTest, ReplacesAPresentFileWithoutAQuestion) {
+    program.machine.AddFile(Path).Content("another");
+    AddBackup("1", record);
+    Open();
+    SelectFirst();
+    Click("cmdrestore");
+    EXPECT_EQ(Content(Path), "the program");
+}
+
+TEST_F(OptionsPageTest, StopsWhenThePresentFileIsInUse) {
+    program.machine.AddFile(Path).Content("another").InUse();
+    AddBackup("1", record);
+    Open();
+    SelectFirst();
+    Click("cmdrestore");
+    EXPECT_EQ(Told(), (RowTexts{"There is already an application running with same name and "
+                                "path."}));
+    EXPECT_EQ(program.desktop.messages[0].icon, MessageIcon::Critical);
+    EXPECT_EQ(Content(Path), "another");
+}
+
+TEST_F(OptionsPageTest, SaysThatItCouldNotCopyIntoAFolderThatIsGone) {
+    AddBackup("1", record);
+    Open();
+    SelectFirst();
+    Click("cmdrestore");
+    EXPECT_EQ(Told(), (RowTexts{"Error Occurred cmdRestore: The system cannot find the path "
+                                "specified.\r\n"}));
+    EXPECT_EQ(program.desktop.messages[0].icon, MessageIcon::Critical);
+    EXPECT_EQ(Copy("1"), "the program");
+}
+
+TEST_F(OptionsPageTest, SaysThatItCouldNotCopyToAMissingDrive) {
+    AddBackup("1",
+              "Q:\\Tools\\bad.exe\x01"
+              "d\r\n");
+    Open();
+    SelectFirst();
+    Click("cmdrestore");
+    EXPECT_EQ(Told().size(), 1u);
+    EXPECT_EQ(Copy("1"), "the program");
+}
+
+// The one place where a file is given up: the present one went before its copy turned out to be
+// missing.
+TEST_F(OptionsPageTest, HasDeletedThePresentFileWhenTheCopyIsMissing) {
+    program.machine.AddFile(Path).Content("another");
+    AddBackup("1", record);
+    program.machine.disk.Remove("C:\\Velkarix\\Backup\\1.bup");
+    Open();
+    SelectFirst();
+    Click("cmdrestore");
+    EXPECT_EQ(Told().size(), 1u);
+    EXPECT_EQ(Content(Path), "(no file)");
+}
+
+TEST_F(OptionsPageTest, KeepsTheSetWhenTheRestoredFileIsCutShort) {
+    program.machine.AddFolder("C:\\Tools");
+    AddBackup("1", record);
+    Open();
+    Click("chkDelete");
+    SelectFirst();
+    program.machine.FailNext("ReadFile");
+    Click("cmdrestore");
+    EXPECT_EQ(Told(), (RowTexts{"File Could not be restored"}));
+    EXPECT_EQ(Copy("1"), "the program");
+}
+
+TEST_F(OptionsPageTest, DeletesABackupAfterAQuestion) {
+    AddBackup("1", record);
+    Open();
+    SelectFirst();
+    Click("cmdDelete");
+    EXPECT_EQ(Told(), (RowTexts{"Are you sure you want to delete backup for: \r\n\r\nbad.exe"}));
+    EXPECT_EQ(program.desktop.messages[0].icon, MessageIcon::Question);
+    EXPECT_EQ(List().RowCount(), 1u);
+    program.desktop.answers = {MessageAnswer::Yes};
+    Click("cmdDelete");
+    EXPECT_EQ(List().RowCount(), 0u);
+    EXPECT_EQ(Copy("1"), "(no file)");
+}
+
+TEST_F(OptionsPageTest, FindsTheCopyWhateverTheCaseOfItsRecordsName) {
+    program.machine.AddFolder("C:\\Tools");
+    program.AddInstalledFile("Backup\\1.PRC").Content(record);
+    program.AddInstalledFile("Backup\\1.bup").Content("the program");
+    Open();
+    SelectFirst();
+    Click("cmdrestore");
+    EXPECT_EQ(Content(Path), "the program");
+}
+
+TEST_F(OptionsPageTest, DoesNothingWithoutASelectedRow) {
+    AddBackup("1", record);
+    Open();
+    Click("cmdrestore");
+    Click("cmdDelete");
+    EXPECT_TRUE(Told().empty());
+}
+
+TEST_F(OptionsPageTest, ShowsNoBackupsWithoutAFolder) {
+    Open();
+    program.machine.disk.Remove("C:\\Velkarix\\backup");
+    program.Get<Button>("frmMain", "cmdIE").Raise("Click");
+    program.Get<Button>("frmMain", "cmdOptions").Raise("Click");
+    EXPECT_EQ(List().RowCount(), 0u);
+}
+
+// Every call of a restore fails once, or from there on: the backup's bytes are never lost.
+constexpr std::size_t NoFault = SIZE_MAX;
+
+class RestoreFaults : public testing::TestWithParam<bool> {
+  protected:
+    static std::size_t RestoreWithFault(std::size_t number, bool allFromThereOn) {
+        TestProgram program;
+        program.AddInstalledFile("Settings.ini").Content("[Main]\r\nDelete=1\r\n");
+        program.AddInstalledFile("Backup\\1.prc").Content(std::string(Path) + "\x01" + "d\r\n");
+        program.AddInstalledFile("Backup\\1.bup").Content("the program");
+        program.machine.AddFile(Path).Content("another");
+        program.Start();
+        program.Get<Button>("frmMain", "cmdOptions").Raise("Click");
+        auto& list = program.Get<ListView>("frmOptions", "lstvBackup");
+        list.UserSelect(&list.Row(0));
+        CallJournal& journal = program.machine.Journal();
+        journal.Clear();
+        journal.FailCall(number, error::AccessDenied, allFromThereOn);
+        program.Get<Button>("frmOptions", "cmdrestore").Raise("Click");
+        const bool live = program.machine.disk.ContentOf(Path) == "the program";
+        const bool held =
+            program.machine.disk.ContentOf("C:\\Velkarix\\Backup\\1.bup") == "the program";
+        EXPECT_TRUE(live || held) << "call " << number;
+        return journal.Calls().size();
+    }
+};
+
+TEST_P(RestoreFaults, NeverLoseTheBackup) {
+    const std::size_t calls = RestoreWithFault(NoFault, false);
+    EXPECT_GT(calls, 8u);
+    for (std::size_t number = 0; number < calls; ++number) RestoreWithFault(number, GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(OnceAndFromThereOn, RestoreFaults, testing::Bool());
+
+}  // namespace
+}  // namespace velkarix
