@@ -5,23 +5,13 @@
 #include <map>
 
 #include "Setup.h"
-#include "forms/win32/Win32Desktop.h"
-#include "platform/win32/Win32Machine.h"
-#include "registry/modRegistry.h"
-#include "shell/clsSysInfo.h"
+#include "SystemFacts.h"
 
 namespace velkarix::e2e {
 namespace {
 
 class SystemFactsOn : public testing::Test {
   protected:
-    SystemDescription Facts() {
-        Win32Machine machine;
-        Win32Desktop desktop;
-        const Machine parts = machine.Parts();
-        modRegistry registry(parts, desktop, "Velkarix");
-        return clsSysInfo(parts.system, registry).sysInfo();
-    }
     // The build that the system itself gives; the 95 family adds its version in the upper half.
     static DWORD Build() {
         OSVERSIONINFOA version{};
@@ -42,7 +32,7 @@ TEST_F(SystemFactsOn, EverySystemHasItsName) {
         {"winxp", "Microsoft Windows XP"},
         {"win2003", "Microsoft Windows Sever 2003"},
     };
-    EXPECT_EQ(Facts().windowsName, names.at(SystemUnderTest()));
+    EXPECT_EQ(AskSystemFacts().windowsName, names.at(SystemUnderTest()));
 }
 
 TEST_F(SystemFactsOn, EverySystemTellsBuildAndNames) {
@@ -56,7 +46,7 @@ TEST_F(SystemFactsOn, EverySystemTellsBuildAndNames) {
     DWORD userSize = sizeof user;
     GetUserNameA(user, &userSize);
 
-    const SystemDescription facts = Facts();
+    const SystemDescription facts = AskSystemFacts();
     EXPECT_EQ(facts.windowsBuild, std::to_string(version.dwMajorVersion) + "." +
                                       std::to_string(version.dwMinorVersion) + "." +
                                       std::to_string(version.dwBuildNumber));

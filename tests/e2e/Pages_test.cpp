@@ -66,11 +66,11 @@ TEST_F(PageStrip, CtrlAndADigitLeadsToThePageOfThatNumber) {
 }
 
 TEST_F(PageStrip, APageThatIsNotBuiltYetSaysSo) {
-    for (std::size_t i = 1; i < std::size(Pages); ++i) {
-        ASSERT_TRUE(Running().Press(Pages[i].button));
+    for (const PageEntry& each : {Pages[1], Pages[2], Pages[3], Pages[5]}) {
+        ASSERT_TRUE(Running().Press(each.button));
         const std::string text = Running().Control("lblToCome").Text();
-        EXPECT_NE(text.find("not built yet"), std::string::npos) << Pages[i].page;
-        EXPECT_EQ(text.find(Pages[i].text), 0u) << text;
+        EXPECT_NE(text.find("not built yet"), std::string::npos) << each.page;
+        EXPECT_EQ(text.find(each.text), 0u) << text;
     }
 }
 

@@ -155,17 +155,5 @@ TEST_F(ProcessList, F5Refreshes) {
     EXPECT_TRUE(WaitUntil([&] { return List().RowCount() == before + 1; }));
 }
 
-TEST_F(ProcessList, ACommandThatIsNotBuiltYetSaysSo) {
-    Start();
-    SelectRow("SampleIdle.exe");
-    for (const char* command : {"cmdKill", "cmdDelete", "cmdReport"}) {
-        ASSERT_TRUE(Running().Control(command).Click()) << command;
-        const Window message = Running().Message();
-        EXPECT_EQ(message.Text(), "Velkarix");
-        EXPECT_NE(MessageText(message).find("not built yet"), std::string::npos) << command;
-        EXPECT_TRUE(Answer(message, IDOK));
-    }
-}
-
 }  // namespace
 }  // namespace velkarix::e2e

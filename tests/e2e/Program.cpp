@@ -8,9 +8,21 @@ namespace {
 
 constexpr int MessageTextId = 65535;
 
+bool IsSystemDialog(const Window& window) {
+    return window.Class() == "#32770" && window.Name().empty();
+}
+
 bool IsMessageBox(const Window& window) {
-    return window.Class() == "#32770" && window.Name().empty() &&
-           GetDlgItem(window.Handle(), MessageTextId) != nullptr;
+    return IsSystemDialog(window) && GetDlgItem(window.Handle(), MessageTextId) != nullptr;
+}
+
+Window FirstWindow(DWORD processId, bool (*isWanted)(const Window&)) {
+    return WaitFor([&] {
+        for (const Window& window : TopWindows(processId)) {
+            if (isWanted(window)) return window;
+        }
+        return Window();
+    });
 }
 
 }  // namespace
@@ -45,12 +57,11 @@ Window Program::Dialog(const std::string& name) const {
 }
 
 Window Program::Message() const {
-    return WaitFor([this] {
-        for (const Window& window : TopWindows(Id())) {
-            if (IsMessageBox(window)) return window;
-        }
-        return Window();
-    });
+    return FirstWindow(Id(), IsMessageBox);
+}
+
+Window Program::SystemDialog() const {
+    return FirstWindow(Id(), IsSystemDialog);
 }
 
 std::string Program::Focus() const {

@@ -31,6 +31,8 @@ class Program {
     Window Dialog(const std::string& name) const;
     // A message box, as soon as one is there.
     Window Message() const;
+    // A dialog of the system's own, as soon as one is there.
+    Window SystemDialog() const;
     // The name of the control that has the keyboard focus; empty when none has.
     std::string Focus() const;
 

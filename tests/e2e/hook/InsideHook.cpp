@@ -86,6 +86,15 @@ SIZE SizeOfText(HWND control, const char* text) {
     return {area.right, area.bottom};
 }
 
+// A picture or a box of colour, by the product's names of them: its text is only spoken.
+bool IsPicture(HWND control) {
+    const auto atom =
+        static_cast<ATOM>(reinterpret_cast<std::uintptr_t>(GetPropA(control, "Velkarix.Name")));
+    char name[256] = "";
+    if (atom != 0) GlobalGetAtomNameA(atom, name, sizeof name);
+    return std::string(name).starts_with("pic");
+}
+
 // What shows its text in a line of its own: labels, buttons, options, frames.
 bool ShowsText(HWND control) {
     char name[16] = "";
@@ -97,7 +106,7 @@ bool ShowsText(HWND control) {
 // Adds the text of a control that isn't wide or high enough for it, in a line of its own.
 BOOL CALLBACK AddCutText(HWND control, LPARAM lines) {
     char text[512] = "";
-    if (!IsWindowVisible(control) || !ShowsText(control)) return TRUE;
+    if (!IsWindowVisible(control) || !ShowsText(control) || IsPicture(control)) return TRUE;
     GetWindowTextA(control, text, sizeof text);
     const SIZE needed = SizeOfText(control, text);
     RECT area{};
