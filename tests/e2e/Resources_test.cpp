@@ -11,10 +11,12 @@ namespace {
 
 class Resources : public ProgramTest {
   protected:
-    // The least of a few counts: what is held only while something is drawn isn't a loss.
+    // The least of many counts: what is held only while something is drawn isn't a loss, and a loss
+    // is in all of them.
     ObjectCounts Count() {
         ObjectCounts least = CountObjects(Running());
-        for (int i = 0; i < 2; ++i) {
+        for (int i = 0; i < 15; ++i) {
+            Sleep(20);
             const ObjectCounts next = CountObjects(Running());
             least.kernel = std::min(least.kernel, next.kernel);
             least.gdi = std::min(least.gdi, next.gdi);
