@@ -100,7 +100,9 @@ std::string Win32FileSystem::GetShortPathNameA(const std::string& path, std::uin
 }
 
 bool Win32FileSystem::MoveFileExA(const std::string& path) {
-    return ::MoveFileExA(path.c_str(), nullptr, MOVEFILE_DELAY_UNTIL_REBOOT) != FALSE;
+    using Call = BOOL(WINAPI*)(LPCSTR, LPCSTR, DWORD);
+    const auto call = kernel_.Find<Call>("MoveFileExA");
+    return call != nullptr && call(path.c_str(), nullptr, MOVEFILE_DELAY_UNTIL_REBOOT) != FALSE;
 }
 
 ErrorCode Win32FileSystem::CreateFileA(const std::string& path, FileUse use, FileHandle& file) {

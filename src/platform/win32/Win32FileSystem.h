@@ -28,6 +28,7 @@ class Win32FileSystem : public FileSystem {
 
   private:
     SystemLibrary shlwapi_{"shlwapi.dll"};
+    SystemLibrary kernel_{"kernel32.dll"};
 };
 
 }  // namespace velkarix
