@@ -150,10 +150,30 @@ TEST_F(SnapshotListingTest, ShowsNothingWithoutASnapshot) {
     EXPECT_EQ(machine.Journal().CountOf("Process32First"), 0u);
 }
 
-TEST_F(SnapshotListingTest, DropsTheLastOfTwoHundredAndSixtyCharacters) {
+TEST_F(SnapshotListingTest, CutsAPathThatIsTooLongForTheSystem) {
     const std::string path = "C:\\" + std::string(300, 'x');
     machine.AddProcess(1, path);
     EXPECT_EQ(List(), (ProcessEntries{{path.substr(0, 259), 1}}));
+}
+
+// A system that fills the whole field leaves no room for the NUL.
+class UnendedNames : public MemoryProcesses {
+  public:
+    using MemoryProcesses::MemoryProcesses;
+    bool Process32First(SnapshotHandle, ProcessSnapshotEntry& entry) override {
+        entry = {7, std::string(260, 'x')};
+        return true;
+    }
+};
+
+TEST_F(SnapshotListingTest, DropsTheLastOfTwoHundredAndSixtyCharacters) {
+    UnendedNames processes(machine.Journal());
+    const Machine all = machine.Parts();
+    const Machine parts{all.registry, all.profileFiles, all.versionResources,
+                        all.files,    all.clock,        processes,
+                        all.token,    all.shell,        all.system,
+                        all.windows,  all.cryptography};
+    EXPECT_EQ(ListProcesses(parts, Me), (ProcessEntries{{std::string(259, 'x'), 7}}));
 }
 
 }  // namespace
