@@ -61,14 +61,25 @@ DWORD KernelHandles(const Process& process) {
 struct GdiEntry {
     std::uint64_t object;
     std::uint32_t owner;
-    std::uint16_t generation;
-    std::uint8_t type;  // 0 in an entry that isn't used
+    std::uint16_t unique;  // its low seven bits tell the kind
+    std::uint8_t type;     // 0 in an entry that isn't used
     std::uint8_t flags;
     std::uint64_t user;
 };
 static_assert(sizeof(GdiEntry) == 24);
 
-DWORD GdiObjectsInTable(HANDLE process) {
+bool IsUsed(const GdiEntry& entry) {
+    return entry.type != 0;
+}
+
+bool IsWindowContext(const GdiEntry& entry) {
+    constexpr std::uint16_t KindBits = 0x7F;
+    constexpr std::uint16_t DeviceContext = 0x01;  // one in memory is another kind
+    return IsUsed(entry) && (entry.unique & KindBits) == DeviceContext;
+}
+
+// Counts into `counts` what the table says, and leaves it alone where there is no table.
+void CountGdiTable(HANDLE process, ObjectCounts& counts) {
     using Query = LONG(WINAPI*)(HANDLE, int, void*, ULONG, ULONG*);
     constexpr std::size_t TableInBlock = 0x94;
     constexpr std::size_t TableSize = 16384;
@@ -76,17 +87,20 @@ DWORD GdiObjectsInTable(HANDLE process) {
     PROCESS_BASIC_INFORMATION basic{};
     if (query == nullptr ||
         query(process, ProcessBasicInformation, &basic, sizeof basic, nullptr) != 0) {
-        return 0;
+        return;
     }
     void* address = nullptr;
     const char* block = reinterpret_cast<const char*>(basic.PebBaseAddress);
     ReadProcessMemory(process, block + TableInBlock, &address, sizeof address, nullptr);
     std::vector<GdiEntry> table(TableSize);
     if (!ReadProcessMemory(process, address, table.data(), TableSize * sizeof(GdiEntry), nullptr)) {
-        return 0;
+        return;
     }
-    return static_cast<DWORD>(
-        std::ranges::count_if(table, [](const GdiEntry& entry) { return entry.type != 0; }));
+    // Wine keeps the contexts of windows for the next who draws, each with a region and a bitmap.
+    constexpr DWORD ObjectsOfAContext = 3;
+    counts.windowContexts = static_cast<DWORD>(std::ranges::count_if(table, IsWindowContext));
+    counts.gdi = static_cast<DWORD>(std::ranges::count_if(table, IsUsed)) -
+                 counts.windowContexts * ObjectsOfAContext;
 }
 
 }  // namespace
@@ -100,7 +114,7 @@ ObjectCounts CountObjects(const Program& program) {
             std::atoi(AskInside(program.Main(), CountUserObjectsQuestion).c_str()));
     }
     counts.gdi = GetGuiResources(process.Handle(), GR_GDIOBJECTS);
-    if (counts.gdi == 0) counts.gdi = GdiObjectsInTable(process.Handle());
+    if (counts.gdi == 0) CountGdiTable(process.Handle(), counts);
     counts.kernel = KernelHandles(process);
     return counts;
 }

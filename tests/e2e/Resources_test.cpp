@@ -21,6 +21,7 @@ class Resources : public ProgramTest {
             least.kernel = std::min(least.kernel, next.kernel);
             least.gdi = std::min(least.gdi, next.gdi);
             least.user = std::min(least.user, next.user);
+            least.windowContexts = std::min(least.windowContexts, next.windowContexts);
         }
         EXPECT_GT(std::min({least.kernel, least.gdi, least.user}), 0u) << "no count to be had";
         return least;
@@ -30,6 +31,10 @@ class Resources : public ProgramTest {
         EXPECT_LE(now.kernel, before.kernel);
         EXPECT_LE(now.gdi, before.gdi);
         EXPECT_LE(now.user, before.user);
+        // How many contexts wait for the next who draws depends on how much was drawn at once; a
+        // context that isn't given back is lost at every switch.
+        constexpr DWORD MostThatWait = 64;
+        EXPECT_LE(now.windowContexts, before.windowContexts + MostThatWait);
     }
     // Goes round the pages; ends on the first one.
     void Switch(int times) {
