@@ -16,7 +16,6 @@ enum class Aspect {
     Visible,
     Look,          // picture, pressed state, skin element
     Value,         // the chosen option, the text of a box
-    Columns,       // captions of a list's columns
     Rows,          // a list's rows came, went or changed their order
     RowState,      // texts, checks, colours or images of rows
     Selection,     // the selected row

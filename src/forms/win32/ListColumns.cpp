@@ -65,24 +65,14 @@ int InsideWidth(HWND list) {
 }  // namespace
 
 void InsertColumns(HWND list, const ListView& model) {
-    const int count = static_cast<int>(model.Columns().size());
     LVCOLUMNA column{};
-    column.mask = LVCF_SUBITEM | LVCF_WIDTH;
-    column.cx = InsideWidth(list) / count;
-    for (column.iSubItem = 0; column.iSubItem < count; ++column.iSubItem) {
+    column.mask = LVCF_TEXT | LVCF_SUBITEM | LVCF_WIDTH;
+    column.cx = InsideWidth(list) / static_cast<int>(model.Columns().size());
+    for (std::string caption : model.Columns()) {
+        column.pszText = caption.data();
         SendMessageA(list, LVM_INSERTCOLUMNA, static_cast<WPARAM>(column.iSubItem),
                      reinterpret_cast<LPARAM>(&column));
-    }
-    ShowColumnCaptions(list, model);
-}
-
-void ShowColumnCaptions(HWND list, const ListView& model) {
-    WPARAM position = 0;
-    for (std::string caption : model.Columns()) {
-        LVCOLUMNA column{};
-        column.mask = LVCF_TEXT;
-        column.pszText = caption.data();
-        SendMessageA(list, LVM_SETCOLUMNA, position++, reinterpret_cast<LPARAM>(&column));
+        ++column.iSubItem;
     }
 }
 

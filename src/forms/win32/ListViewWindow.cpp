@@ -50,9 +50,6 @@ void ListViewWindow::Changed(Aspect aspect) {
         case Aspect::ColumnWidths:
             fitWanted_ = true;
             break;
-        case Aspect::Columns:
-            ShowColumnCaptions(Handle(), list_);
-            return;
         default:
             ControlWindow::Changed(aspect);
             return;
