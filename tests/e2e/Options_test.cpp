@@ -1,4 +1,7 @@
 // The options page: boxes of colour and boxes with a mark, by mouse and by keyboard.
+#include <windows.h>
+#include <commctrl.h>
+
 #include "Input.h"
 #include "ProgramTest.h"
 #include "Screen.h"
@@ -46,6 +49,13 @@ TEST_F(Options, ADoubleClickOnAColourBoxChangesItsColour) {
     EXPECT_TRUE(Becomes("DisColor", std::to_string(After)));
     EXPECT_TRUE(WaitUntil([&] { return PixelsOf(box, After) > 100; }));
     EXPECT_EQ(PixelsOf(box, Before), 0);
+}
+
+TEST_F(Options, TheListOfBackupsHasNothingToTick) {
+    const LRESULT style =
+        SendMessageA(Box("lstvBackup").Handle(), LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0);
+    EXPECT_NE(style & LVS_EX_FULLROWSELECT, 0);
+    EXPECT_EQ(style & LVS_EX_CHECKBOXES, 0);
 }
 
 TEST_F(Options, ASingleClickOnAColourBoxOnlyGivesItTheFocus) {

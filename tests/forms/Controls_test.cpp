@@ -84,5 +84,54 @@ TEST(TextBox, TellsItsViewOfTheProgramsTextAlone) {
     box.AttachView(nullptr);
 }
 
+class CountingView : public ControlView {
+  public:
+    void Changed(Aspect) override { ++times; }
+    int times = 0;
+};
+
+TEST(CheckBox, TurnsItsMarkRoundBeforeItsHandlerRuns) {
+    bool seen = false;
+    CheckBox* self = nullptr;
+    CheckBox box("chkTest", "Test", [&] { seen = self->Checked(); });
+    self = &box;
+    EXPECT_TRUE(box.Raise("Click"));
+    EXPECT_TRUE(seen);
+    EXPECT_TRUE(box.Raise("Click"));
+    EXPECT_FALSE(seen);
+    EXPECT_FALSE(box.Raise("DblClick"));
+}
+
+TEST(CheckBox, RunsNoHandlerWhenTheProgramChecksIt) {
+    int clicks = 0;
+    CountingView view;
+    CheckBox box("chkTest", "Test", [&clicks] { ++clicks; });
+    box.AttachView(&view);
+    box.SetChecked(true);
+    EXPECT_TRUE(box.Checked());
+    EXPECT_EQ(clicks, 0);
+    EXPECT_EQ(view.times, 1);
+    box.AttachView(nullptr);
+}
+
+TEST(ColorBox, AnswersToADoubleClickAlone) {
+    int doubleClicks = 0;
+    ColorBox box("picTest", "Test", [&doubleClicks] { ++doubleClicks; });
+    EXPECT_FALSE(box.Raise("Click"));
+    EXPECT_EQ(doubleClicks, 0);
+    EXPECT_TRUE(box.Raise("DblClick"));
+    EXPECT_EQ(doubleClicks, 1);
+}
+
+TEST(ColorBox, TellsItsViewOfANewColour) {
+    CountingView view;
+    ColorBox box("picTest", "Test", {});
+    box.AttachView(&view);
+    box.SetBoxColor(0x00FF8040);
+    EXPECT_EQ(box.BoxColor(), 0x00FF8040u);
+    EXPECT_EQ(view.times, 1);
+    box.AttachView(nullptr);
+}
+
 }  // namespace
 }  // namespace velkarix

@@ -44,4 +44,22 @@ TEST(CallJournal, AFailedCallIsWrittenDownToo) {
     EXPECT_EQ(journal.CountOf("A"), 1u);
 }
 
+TEST(CallJournal, ACallFailsByItsNumberSinceTheLastClear) {
+    CallJournal journal;
+    journal.Enter("A");
+    journal.Clear();
+    journal.FailCall(1, error::AccessDenied);
+    EXPECT_EQ(journal.Enter("A"), error::Success);
+    EXPECT_EQ(journal.Enter("B"), error::AccessDenied);
+    EXPECT_EQ(journal.Enter("C"), error::Success);
+}
+
+TEST(CallJournal, AllCallsFailFromANumberOn) {
+    CallJournal journal;
+    journal.FailCall(1, error::AccessDenied, true);
+    EXPECT_EQ(journal.Enter("A"), error::Success);
+    EXPECT_EQ(journal.Enter("B"), error::AccessDenied);
+    EXPECT_EQ(journal.Enter("C"), error::AccessDenied);
+}
+
 }  // namespace velkarix

@@ -119,6 +119,11 @@ TEST_F(OptionsPageTest, ListsTheBackups) {
     EXPECT_EQ(row.Text(2), "C:\\Tools\\");
 }
 
+TEST_F(OptionsPageTest, HasNothingToTickInItsListOfBackups) {
+    Open();
+    EXPECT_FALSE(List().CheckBoxes());
+}
+
 TEST_F(OptionsPageTest, PassesOverRecordsThatAreNone) {
     AddBackup("1", "");
     AddBackup("2", "no field mark\r\n" + record);

@@ -69,6 +69,16 @@ TEST_F(KillDeleteTest, DoesNotListAnewWhenTheProcessCouldNotBeStopped) {
     EXPECT_EQ(List().RowCount(), 1u);
 }
 
+TEST_F(KillDeleteTest, SaysThatARowNamesNoProcess) {
+    program.Start();
+    List().UserSelect(&List().Add("no number", "odd.exe", 1));
+    Answer({MessageAnswer::Yes});
+    Click("cmdKill");
+    EXPECT_EQ(Told().back(), "Error Occurred killProcess\r\nodd.exe\r\n\r\n13 Type mismatch");
+    EXPECT_EQ(program.desktop.messages.back().icon, MessageIcon::Information);
+    EXPECT_EQ(program.machine.Journal().CountOf("TerminateProcess"), 0u);
+}
+
 TEST_F(KillDeleteTest, DoesNothingWithoutASelectedRow) {
     program.Start();
     List().UserSelect(nullptr);

@@ -62,5 +62,25 @@ TEST_F(TextFileTest, SaysThatTheDiskIsFull) {
     EXPECT_EQ(machine.files.OpenFileCount(), 0u);
 }
 
+TEST_F(TextFileTest, AppendsToAFileAndMakesAMissingOne) {
+    EXPECT_EQ(AppendTextFile(machine.files, path, "one"), error::Success);
+    EXPECT_EQ(AppendTextFile(machine.files, path, " two"), error::Success);
+    EXPECT_EQ(machine.disk.ContentOf(path), "one two");
+    EXPECT_EQ(AppendTextFile(machine.files, "X:\\text.txt", "x"), error::PathNotFound);
+    EXPECT_EQ(machine.files.OpenFileCount(), 0u);
+}
+
+TEST_F(TextFileTest, ReadsTheFirstLineWithoutItsEnd) {
+    EXPECT_FALSE(ReadFirstLine(machine.files, path).has_value());
+    machine.AddFile(path);
+    EXPECT_FALSE(ReadFirstLine(machine.files, path).has_value());
+    machine.AddFile(path).Content("first\r\nsecond");
+    EXPECT_EQ(ReadFirstLine(machine.files, path), "first");
+    machine.AddFile(path).Content("only");
+    EXPECT_EQ(ReadFirstLine(machine.files, path), "only");
+    machine.AddFile(path).Content("\r\nsecond");
+    EXPECT_EQ(ReadFirstLine(machine.files, path), "");
+}
+
 }  // namespace
 }  // namespace velkarix
