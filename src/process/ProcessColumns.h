@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "forms/ListView.h"
@@ -21,11 +20,6 @@ constexpr std::size_t Folder = 6;  // with its last backslash
 
 std::vector<std::string> ProcessColumnCaptions();
 
-// The file name: what stands behind the last backslash, or the whole path when that is its first
-// character or missing.
-std::string ProcessName(std::string_view path);
-// The path up to and with its last backslash.
-std::string ProcessFolder(std::string_view path);
 // The path of a row's file: its folder, then its name.
 std::string FullPath(const ListRow& row);
 

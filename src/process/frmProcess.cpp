@@ -19,7 +19,6 @@ frmProcess::frmProcess(Application& application, VerdictCache& verdictCache)
     : Form("frmProcess", "Processes", FormKind::Page),
       application_(application),
       verdictCache_(verdictCache),
-      fileInfo_(application.machine),
       backup_(application),
       lstvProcess_("lstvProcess", "Running processes", ProcessColumnCaptions(),
                    {[this](ListRow& row) { lstvProcess_ItemClick(row); },

@@ -11,7 +11,6 @@
 #include "process/SafeList.h"
 #include "process/VerdictCache.h"
 #include "shell/Application.h"
-#include "shell/clsProcess.h"
 
 namespace velkarix {
 
@@ -55,7 +54,6 @@ class frmProcess : public Form {
     Application& application_;
     VerdictCache& verdictCache_;
     SafeProcesses safeProcessList_;
-    clsProcess fileInfo_;
     ProcessBackup backup_;
     bool filterOn_ = true;
 

@@ -73,12 +73,8 @@ void frmProcess::cmdReport_Click() {
 }
 
 bool frmProcess::printReport(const std::string& fileName) {
-    const ErrorCode result = AppendReport(application_, lstvProcess_, RowLines, FullPath, fileName);
-    if (result == error::Success) return true;
-    application_.Tell(MessageIcon::Information,
-                      "Error Occurred Process printReport: \r\n" +
-                          application_.registry.GetSystemErrorText(result));
-    return false;
+    return PrintReport(application_, lstvProcess_,
+                       {RowLines, FullPath, "Error Occurred Process printReport: "}, fileName);
 }
 
 }  // namespace velkarix

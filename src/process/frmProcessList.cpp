@@ -1,7 +1,5 @@
 // The list of the process page: how it is filled, and what the user does with its rows.
 #include <algorithm>
-#include <optional>
-#include <utility>
 
 #include "base/Text.h"
 #include "process/ClassifyProcess.h"
@@ -9,34 +7,22 @@
 #include "process/ProcessEntries.h"
 #include "process/frmProcess.h"
 #include "shell/FilePaths.h"
+#include "shell/FileRows.h"
 #include "shell/ListServices.h"
 #include "shell/ShellOpen.h"
-#include "shell/clsIcon.h"
 
 namespace velkarix {
 
 namespace {
 
-// The columns that show a fact of the file, and the fact's row.
-struct FactColumn {
-    std::size_t column;
-    int fact;
-};
-const FactColumn FactColumns[] = {{processColumn::Created, 12},
-                                  {processColumn::Company, 7},
-                                  {processColumn::Product, 0},
-                                  {processColumn::Description, 2}};
-
-constexpr std::size_t DefaultImage = 1;
+constexpr FileColumns FactColumns = {processColumn::Size, processColumn::Created,
+                                     processColumn::Company, processColumn::Product,
+                                     processColumn::Description};
 
 }  // namespace
 
 void frmProcess::LoadProcessList() {
-    lstvProcess_.Clear();
-    lstvProcess_.SetImages(nullptr);
-    imglProcess_.Clear();
-    imglProcess_.Add(StockPicture{"Software"});
-    lstvProcess_.SetImages(&imglProcess_);
+    ClearRows(lstvProcess_, imglProcess_);
     for (const ProcessEntry& entry :
          ListProcesses(application_.machine, application_.WindowsName)) {
         ShowEntry(entry.path, entry.id);
@@ -47,7 +33,7 @@ void frmProcess::LoadProcessList() {
 }
 
 void frmProcess::ShowEntry(const std::string& path, ProcessId id) {
-    const std::string name = ProcessName(path);
+    const std::string name = FileNameOf(path);
     if (!filterOn_) {
         AddProcessRow(path, name, id, false);
         return;
@@ -63,22 +49,11 @@ void frmProcess::AddProcessRow(const std::string& path, const std::string& name,
                                bool suspicious) {
     const std::string key = EncodeDigits(static_cast<std::int32_t>(id));
     const bool exists = PathExists(application_.machine.files, path);
-    std::size_t image = DefaultImage;
-    if (exists) {
-        clsIcon icons(application_.machine.shell);
-        if (std::optional<Picture> icon = icons.GetIconFromFile(path, 0, false)) {
-            image = imglProcess_.Add(std::move(*icon));
-        }
-    }
+    const std::size_t image =
+        exists ? AddFileIcon(application_.machine.shell, imglProcess_, path) : DefaultImage;
     ListRow& row = lstvProcess_.Add(key, name, image);
-    row.SetText(processColumn::Folder, ProcessFolder(path));
-    if (exists) {
-        fileInfo_.GetFileDescription(path);
-        row.SetText(processColumn::Size, FileSizeText(application_.machine.files, path));
-        for (const FactColumn& each : FactColumns) {
-            row.SetText(each.column, fileInfo_.getItem(each.fact));
-        }
-    }
+    row.SetText(processColumn::Folder, FolderOf(path));
+    if (exists) ShowFileFacts(application_.machine, row, FactColumns, path);
     MarkRow(application_.appearance, row, true, suspicious);
 }
 

@@ -13,6 +13,16 @@ bool PathExists(FileSystem& files, const std::string& path) {
     return files.GetFileAttributesA(path) != fileAttribute::Invalid;
 }
 
+std::string FileNameOf(std::string_view path) {
+    const std::size_t last = path.rfind('\\');
+    if (last == std::string_view::npos || last == 0) return std::string(path);
+    return std::string(path.substr(last + 1));
+}
+
+std::string FolderOf(std::string_view path) {
+    return std::string(path.substr(0, path.rfind('\\') + 1));
+}
+
 std::string CleanPath(const Machine& machine, const std::string& path) {
     std::string clean = path;
     if (clean.find('%') != std::string::npos) clean = ExpandEnvPath(machine.system, clean);

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/Machine.h"
@@ -12,6 +13,12 @@ namespace velkarix {
 
 // Whether there is a file or folder.
 bool PathExists(FileSystem& files, const std::string& path);
+
+// The file name: what stands behind the last backslash, or the whole path when that is its first
+// character or missing.
+std::string FileNameOf(std::string_view path);
+// The path up to and with its last backslash.
+std::string FolderOf(std::string_view path);
 
 // Replaces %NAME%, then turns short levels (those with "~") into long ones. A path with neither
 // sign comes back as it is.

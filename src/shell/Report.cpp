@@ -36,17 +36,20 @@ class RowBlock {
 
     void Add(std::span<const ReportLine> lines) {
         for (const ReportLine& line : lines) {
-            text_ += line.label + ValueOf(line) + std::string(LineBreak);
+            const bool other = line.riskLabel != nullptr && HasRisk();
+            text_ += (other ? line.riskLabel : line.label) + ValueOf(line) + std::string(LineBreak);
         }
     }
     const std::string& Text() const { return text_; }
 
   private:
+    bool HasRisk() const { return row_.TextColor() == appearance_.SusColor; }
+
     std::string ValueOf(const ReportLine& line) const {
         if (line.value == ReportValue::Fact) return facts_.getItem(line.index);
         const std::string& text = row_.Text(static_cast<std::size_t>(line.index));
-        const bool marked =
-            line.value == ReportValue::ColumnWithRisk && row_.TextColor() == appearance_.SusColor;
+        if (line.value == ReportValue::YesNo) return text == "True" ? "Yes" : "No";
+        const bool marked = line.value == ReportValue::ColumnWithRisk && HasRisk();
         return marked ? text + " *******[Risk]*******" : text;
     }
 
@@ -87,21 +90,24 @@ void WriteReportHeader(Application& application, const std::string& path,
     WriteTextFile(application.machine.files, path, text);
 }
 
-ErrorCode AppendReport(Application& application, ListView& list, std::span<const ReportLine> lines,
-                       const std::function<std::string(const ListRow&)>& filePath,
-                       const std::string& path) {
+bool PrintReport(Application& application, ListView& list, const ReportTable& table,
+                 const std::string& path) {
     clsProcess facts(application.machine);
     std::string text;
     for (std::size_t i = 0; i < list.RowCount(); ++i) {
         const ListRow& row = list.Row(i);
-        facts.GetFileDescription(filePath(row));
         RowBlock block(row, facts, application.appearance);
-        block.Add(lines);
-        block.Add(VersionBlock());
+        if (table.filePath) facts.GetFileDescription(table.filePath(row));
+        block.Add(table.lines);
+        if (table.filePath) block.Add(VersionBlock());
         if (i > 0) text.append(LineBreak);
         text += block.Text();
     }
-    return AppendTextFile(application.machine.files, path, text);
+    const ErrorCode result = AppendTextFile(application.machine.files, path, text);
+    if (result == error::Success) return true;
+    application.Tell(MessageIcon::Information, table.failure + std::string(LineBreak) +
+                                                   application.registry.GetSystemErrorText(result));
+    return false;
 }
 
 void RunReportCommand(Application& application, Form& owner, const ListView& list,

@@ -22,13 +22,15 @@ struct ReportCommand {
 enum class ReportValue {
     Column,          // the text of a column
     ColumnWithRisk,  // the same, with the mark of a suspicious row
+    YesNo,           // "Yes" for a column that says "True", else "No"
     Fact,            // a row of the file's facts
 };
 
 struct ReportLine {
     const char* label;
     ReportValue value;
-    int index;  // of the column or the fact
+    int index;                        // of the column or the fact
+    const char* riskLabel = nullptr;  // stands in place of the label on a line with the mark
 };
 
 // The twelve lines of a file's version facts, in the order and with the labels of all reports.
@@ -38,12 +40,18 @@ std::span<const ReportLine> VersionBlock();
 // writer, which comes next, fails in its own way.
 void WriteReportHeader(Application& application, const std::string& path, const std::string& title);
 
-// Appends a block of `lines`, then the version block, for each row in the shown order, with an
-// empty line between two rows. `filePath` gives the file of a row. The code of what failed, or
-// Success; what was written up to there stays.
-ErrorCode AppendReport(Application& application, ListView& list, std::span<const ReportLine> lines,
-                       const std::function<std::string(const ListRow&)>& filePath,
-                       const std::string& path);
+// What a list's writer writes.
+struct ReportTable {
+    std::span<const ReportLine> lines;
+    // The path of a row's file, whose version block follows the lines; empty: there is none.
+    std::function<std::string(const ListRow&)> filePath;
+    const char* failure;  // what the user is told, before the error's description
+};
+
+// Appends a block for each row in the shown order, with an empty line between two rows. False,
+// after a message, when the file can't be written; what was written up to there stays.
+bool PrintReport(Application& application, ListView& list, const ReportTable& table,
+                 const std::string& path);
 
 // The steps of every report command: asks for the file, writes the header, has the list written
 // by `print`, and opens the file. Nothing is written when the user cancels.

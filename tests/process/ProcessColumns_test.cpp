@@ -5,22 +5,6 @@
 namespace velkarix {
 namespace {
 
-TEST(ProcessName, IsWhatStandsBehindTheLastBackslash) {
-    EXPECT_EQ(ProcessName("C:\\WINDOWS\\explorer.exe"), "explorer.exe");
-    EXPECT_EQ(ProcessName("C:\\"), "");
-}
-
-TEST(ProcessName, IsTheWholePathWithoutABackslashBehindItsFirstCharacter) {
-    EXPECT_EQ(ProcessName("System"), "System");
-    EXPECT_EQ(ProcessName("\\System"), "\\System");
-    EXPECT_EQ(ProcessName(""), "");
-}
-
-TEST(ProcessFolder, KeepsItsLastBackslash) {
-    EXPECT_EQ(ProcessFolder("C:\\WINDOWS\\explorer.exe"), "C:\\WINDOWS\\");
-    EXPECT_EQ(ProcessFolder("System"), "");
-}
-
 TEST(FullPath, IsTheFolderThenTheName) {
     ListView list("lstvTest", "Test", ProcessColumnCaptions(), {});
     ListRow& row = list.Add("A", "explorer.exe", 1);

@@ -246,5 +246,21 @@ TEST_F(FilePathsTest, ShowInExplorerSelectsThePathWithoutQuotes) {
         (std::vector<ShellOpening>{{77, "Open", "explorer.exe", "/select,C:\\a b\\c.exe", "", 1}}));
 }
 
+TEST(FileNameOf, IsWhatStandsBehindTheLastBackslash) {
+    EXPECT_EQ(FileNameOf("C:\\WINDOWS\\explorer.exe"), "explorer.exe");
+    EXPECT_EQ(FileNameOf("C:\\"), "");
+}
+
+TEST(FileNameOf, IsTheWholePathWithoutABackslashBehindItsFirstCharacter) {
+    EXPECT_EQ(FileNameOf("System"), "System");
+    EXPECT_EQ(FileNameOf("\\System"), "\\System");
+    EXPECT_EQ(FileNameOf(""), "");
+}
+
+TEST(FolderOf, KeepsItsLastBackslash) {
+    EXPECT_EQ(FolderOf("C:\\WINDOWS\\explorer.exe"), "C:\\WINDOWS\\");
+    EXPECT_EQ(FolderOf("System"), "");
+}
+
 }  // namespace
 }  // namespace velkarix

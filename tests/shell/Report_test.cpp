@@ -106,12 +106,47 @@ TEST_F(ReportTest, WritesTheHeaderThenTheListThenOpensTheFile) {
     EXPECT_EQ(program.machine.shell.Opened()[0], (ShellOpening{0, "Open", Path, "", "", 1}));
 }
 
+constexpr ReportLine Lines[] = {{"Plain : ", ReportValue::ColumnWithRisk, 0, "Risky      : "},
+                                {"Here  : ", ReportValue::YesNo, 1}};
+
+TEST_F(ReportTest, WritesABlockForEachRowWithALineBetweenThem) {
+    list.Add("A", "one", 1).SetText(1, "True");
+    list.Add("B", "two", 1).SetText(1, "true");
+    EXPECT_TRUE(PrintReport(program.application, list, {Lines, {}, "Failed: "}, Path));
+    EXPECT_EQ(Text(),
+              "Plain : one\r\nHere  : Yes\r\n"
+              "\r\n"
+              "Plain : two\r\nHere  : No\r\n");
+}
+
+TEST_F(ReportTest, MarksARowInTheColourOfTheSuspiciousAndTakesItsOwnLabel) {
+    list.Add("A", "one", 1).SetTextColor(program.application.appearance.SusColor);
+    list.Add("B", "two", 1).SetTextColor(program.application.appearance.SusDisColor);
+    EXPECT_TRUE(PrintReport(program.application, list, {Lines, {}, "Failed: "}, Path));
+    EXPECT_EQ(Text(),
+              "Risky      : one *******[Risk]*******\r\nHere  : No\r\n"
+              "\r\n"
+              "Plain : two\r\nHere  : No\r\n");
+}
+
+TEST_F(ReportTest, WritesTheVersionBlockOfTheRowsFileWhereTheListHasFiles) {
+    program.machine.AddFile("C:\\a.dll").Version({{"ProductName", "Sample Suite"}});
+    list.Add("A", "one", 1);
+    PrintReport(program.application, list,
+                {{}, [](const ListRow&) { return std::string("C:\\a.dll"); }, "Failed: "}, Path);
+    EXPECT_EQ(Text().substr(0, 34), "Product Name      : Sample Suite\r\n");
+    EXPECT_EQ(Text().substr(Text().size() - 22), "Special Build     : \r\n");
+}
+
 TEST_F(ReportTest, TellsWhyABlockCouldNotBeAppended) {
     list.Add("A", "row", 1);
-    EXPECT_EQ(AppendReport(
-                  program.application, list, {}, [](const ListRow&) { return std::string(); },
-                  "X:\\report.txt"),
-              error::PathNotFound);
+    EXPECT_FALSE(PrintReport(program.application, list, {Lines, {}, "Failed: "}, "X:\\report.txt"));
+    ASSERT_EQ(program.desktop.messages.size(), 1u);
+    const Message& message = program.desktop.messages[0];
+    EXPECT_EQ(message.text, "Failed: \r\n" + program.application.registry.GetSystemErrorText(
+                                                 error::PathNotFound));
+    EXPECT_EQ(message.icon, MessageIcon::Information);
+    EXPECT_EQ(message.title, "Velkarix");
 }
 
 }  // namespace

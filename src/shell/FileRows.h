@@ -1,0 +1,34 @@
+// Rows that stand for a file: the pictures and the facts that all lists show of one.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "forms/ImageList.h"
+#include "forms/ListView.h"
+#include "platform/Machine.h"
+
+namespace velkarix {
+
+// The image of a row whose file gave none.
+inline constexpr std::size_t DefaultImage = 1;
+
+// The columns in which a list shows the facts of a row's file.
+struct FileColumns {
+    std::size_t size;
+    std::size_t created;
+    std::size_t company;
+    std::size_t product;
+    std::size_t description;
+};
+
+// Empties the list, and its pictures but for the default one.
+void ClearRows(ListView& list, ImageList& images);
+// Adds the file's small icon at `index`. Gives the image, which is the default one when there is
+// no such icon.
+std::size_t AddFileIcon(Shell& shell, ImageList& images, const std::string& path, int index = 0);
+// Fills the columns; what can't be read is empty.
+void ShowFileFacts(const Machine& machine, ListRow& row, const FileColumns& columns,
+                   const std::string& path);
+
+}  // namespace velkarix
