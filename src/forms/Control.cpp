@@ -19,7 +19,17 @@ void Control::SetEnabled(bool enabled) {
 
 void Control::SetVisible(bool visible) {
     visible_ = visible;
+    NotifyVisible();
+}
+
+void Control::StandIn(Control* around) {
+    around_ = around;
+    if (around != nullptr) around->inside_.push_back(this);
+}
+
+void Control::NotifyVisible() const {
     Notify(Aspect::Visible);
+    for (const Control* each : inside_) each->NotifyVisible();
 }
 
 void Control::SetSkinElement(std::string element) {

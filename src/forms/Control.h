@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velkarix {
 
@@ -13,7 +14,7 @@ class ControlVisitor;
 enum class Aspect {
     Text,
     Enabled,
-    Visible,
+    Visible,       // by its own will or by that of what it stands in
     Look,          // picture, pressed state, skin element
     Value,         // the chosen option, the text of a box
     Rows,          // a list's rows came, went or changed their order
@@ -46,6 +47,11 @@ class Control {
     void SetEnabled(bool enabled);
     bool Visible() const { return visible_; }
     void SetVisible(bool visible);
+    // Whether the control and all that it stands in are visible.
+    bool Shown() const { return visible_ && (around_ == nullptr || around_->Shown()); }
+    // The control stands in `around`, which hides it when it is hidden itself; null: in the form.
+    // Said once, by the form's layout.
+    void StandIn(Control* around);
     // The element of the program's own drawing that gives the control its look; empty is the
     // system's look. Nothing but the drawing depends on it.
     const std::string& SkinElement() const { return skinElement_; }
@@ -66,11 +72,15 @@ class Control {
     void Notify(Aspect aspect) const;
 
   private:
+    void NotifyVisible() const;
+
     std::string name_;
     std::string text_;
     std::string skinElement_;
     bool enabled_ = true;
     bool visible_ = true;
+    Control* around_ = nullptr;
+    std::vector<Control*> inside_;
     ControlView* view_ = nullptr;
 };
 

@@ -6,6 +6,7 @@ namespace velkarix {
 class Button;
 class CheckBox;
 class ColorBox;
+class ComboBox;
 class Frame;
 class Label;
 class LinkLabel;
@@ -14,6 +15,7 @@ class OptionButton;
 class PageHost;
 class Panel;
 class PictureBox;
+class TabStrip;
 class TextBox;
 
 class ControlVisitor {
@@ -22,6 +24,7 @@ class ControlVisitor {
     virtual void Visit(Button& control) = 0;
     virtual void Visit(CheckBox& control) = 0;
     virtual void Visit(ColorBox& control) = 0;
+    virtual void Visit(ComboBox& control) = 0;
     virtual void Visit(Frame& control) = 0;
     virtual void Visit(Label& control) = 0;
     virtual void Visit(LinkLabel& control) = 0;
@@ -30,6 +33,7 @@ class ControlVisitor {
     virtual void Visit(PageHost& control) = 0;
     virtual void Visit(Panel& control) = 0;
     virtual void Visit(PictureBox& control) = 0;
+    virtual void Visit(TabStrip& control) = 0;
     virtual void Visit(TextBox& control) = 0;
 };
 

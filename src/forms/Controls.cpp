@@ -6,8 +6,6 @@
 
 namespace velkarix {
 
-namespace {
-
 bool FireEvent(std::string_view event, std::string_view wanted, const Handler& handler) {
     if (event != wanted || !handler) return false;
     // A copy, since the handler may unload the form that the control stands on.
@@ -15,8 +13,6 @@ bool FireEvent(std::string_view event, std::string_view wanted, const Handler& h
     running();
     return true;
 }
-
-}  // namespace
 
 Label::Label(std::string name, std::string text, Look look)
     : Control(std::move(name), std::move(text)), look_(look) {}
@@ -66,12 +62,20 @@ void PictureBox::Accept(ControlVisitor& visitor) {
     visitor.Visit(*this);
 }
 
-TextBox::TextBox(std::string name, std::string text, Shape shape)
-    : Control(std::move(name), std::move(text)), shape_(shape) {}
+TextBox::TextBox(std::string name, std::string text, Shape shape, Handler onChange)
+    : Control(std::move(name), std::move(text)), shape_(shape), onChange_(std::move(onChange)) {}
 
 void TextBox::SetValue(std::string value) {
+    if (value == value_) return;
     value_ = std::move(value);
     Notify(Aspect::Value);
+    if (onChange_) onChange_();
+}
+
+void TextBox::TakeInput(std::string value) {
+    if (value == value_) return;
+    value_ = std::move(value);
+    if (onChange_) onChange_();
 }
 
 void TextBox::Accept(ControlVisitor& visitor) {

@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/Color.h"
@@ -15,6 +16,9 @@
 namespace velkarix {
 
 using Handler = std::function<void()>;
+
+// Runs `handler` when `event` is the one that it is for. False when it isn't, or there is none.
+bool FireEvent(std::string_view event, std::string_view wanted, const Handler& handler);
 
 // Text as it stands: a label has no access key, and "&" is a letter in it as any other.
 class Label : public Control {
@@ -41,7 +45,8 @@ class LinkLabel : public Control {
 
 class Button : public Control {
   public:
-    enum class Look { Command, Picture };  // a picture button shows its skin element, with text
+    // A picture button shows its skin element, with text; a small one is one of a longer strip.
+    enum class Look { Command, Picture, SmallPicture };
     Button(std::string name, std::string text, Handler onClick, Look look = Look::Command);
     Look ButtonLook() const { return look_; }
     // A picture button that stays down marks the page on view.
@@ -81,17 +86,20 @@ class TextBox : public Control {
         int lines = 1;
         bool readOnly = false;
     };
-    TextBox(std::string name, std::string text, Shape shape);
+    // `onChange` hears of each change of the value, whoever makes it.
+    TextBox(std::string name, std::string text, Shape shape, Handler onChange = {});
     const Shape& BoxShape() const { return shape_; }
     const std::string& Value() const { return value_; }
+    // A value that it holds already is no change.
     void SetValue(std::string value);
     // The user typed: the value changes without a word to the view.
-    void TakeInput(std::string value) { value_ = std::move(value); }
+    void TakeInput(std::string value);
     void Accept(ControlVisitor& visitor) override;
 
   private:
     Shape shape_;
     std::string value_;
+    Handler onChange_;
 };
 
 class CheckBox : public Control {
@@ -170,7 +178,7 @@ class Frame : public Control {
 // A plain area around other controls.
 class Panel : public Control {
   public:
-    enum class Look { Banner, Strip };
+    enum class Look { Banner, Strip, Plain };
     Panel(std::string name, std::string text, Look look);
     Look PanelLook() const { return look_; }
     void Accept(ControlVisitor& visitor) override;

@@ -5,6 +5,18 @@
 
 namespace velkarix {
 
+namespace {
+
+void StandInside(const Layout& layout, Control* around) {
+    if (layout.control != nullptr) {
+        layout.control->StandIn(around);
+        around = layout.control;
+    }
+    for (const Layout& child : layout.children) StandInside(child, around);
+}
+
+}  // namespace
+
 Form::Form(std::string name, std::string caption, FormKind kind)
     : name_(std::move(name)), caption_(std::move(caption)), kind_(kind) {}
 
@@ -37,10 +49,15 @@ bool Form::RaiseKey(Key key, bool control) {
             // A copy, since the handler may unload this form.
             const std::string handler = accelerator.handler;
             const auto [target, event] = Target(handler);
-            return target != nullptr && target->Raise(event);
+            if (target != nullptr && target->Shown()) return target->Raise(event);
         }
     }
     return false;
+}
+
+void Form::SetLayout(Layout layout) {
+    layout_ = std::move(layout);
+    StandInside(layout_, nullptr);
 }
 
 void Form::Close() {

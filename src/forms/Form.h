@@ -61,8 +61,8 @@ class Form {
     // Runs a handler by its name, control + event ("cmdRefresh_Click"), whether its control is
     // enabled or not. False when there is no such control or event.
     bool Run(std::string_view handler);
-    // The user pressed a key: runs its handler. False when the form has no such key or the
-    // handler's control is disabled.
+    // The user pressed a key: runs its handler. Of several handlers of one key that one runs whose
+    // control is on view. False when there is none, or its control is disabled.
     bool RaiseKey(Key key, bool control);
 
     // The form is to go: its user closed it, or its code did.
@@ -81,7 +81,8 @@ class Form {
   protected:
     void SetControls(std::vector<Control*> controls) { controls_ = std::move(controls); }
     void SetTimers(std::vector<Timer*> timers) { timers_ = std::move(timers); }
-    void SetLayout(Layout layout) { layout_ = std::move(layout); }
+    // Once all controls are told: what stands in a group of the layout is hidden with it.
+    void SetLayout(Layout layout);
     void SetAccelerators(std::vector<Accelerator> keys) { accelerators_ = std::move(keys); }
     void SetButtons(Button* defaultButton, Button* cancelButton);
 

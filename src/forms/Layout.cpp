@@ -164,6 +164,9 @@ void Place(const Layout& layout, const Rect& area, LayoutMetrics& metrics,
         case Layout::Kind::Group:
             PlaceGroup(layout, area, metrics, placements);
             return;
+        case Layout::Kind::Stack:
+            for (const Layout& child : layout.children) Place(child, area, metrics, placements);
+            return;
     }
 }
 
@@ -222,6 +225,14 @@ Layout Group(Control& around, Layout child, int stretch) {
     return layout;
 }
 
+Layout Stack(std::vector<Layout> children, int stretch) {
+    Layout layout;
+    layout.kind = Layout::Kind::Stack;
+    layout.children = std::move(children);
+    layout.stretch = stretch;
+    return layout;
+}
+
 Size MinimumSize(const Layout& layout, LayoutMetrics& metrics) {
     switch (layout.kind) {
         case Layout::Kind::Space:
@@ -240,6 +251,14 @@ Size MinimumSize(const Layout& layout, LayoutMetrics& metrics) {
             const Size inside = MinimumSize(layout.children.front(), metrics);
             return {inside.width + insets.left + insets.right,
                     inside.height + insets.top + insets.bottom};
+        }
+        case Layout::Kind::Stack: {
+            Size largest;
+            for (const Size& size : SizesOf(layout.children, metrics)) {
+                largest.width = std::max(largest.width, size.width);
+                largest.height = std::max(largest.height, size.height);
+            }
+            return largest;
         }
     }
     return {};

@@ -1,4 +1,5 @@
-// Where the controls of a form stand: rows, columns, grids and groups with stretch, no pixels.
+// Where the controls of a form stand: rows, columns, grids, groups and stacks with stretch, no
+// pixels.
 // The sizes come from whoever shows the form, who alone knows fonts and the machine's DPI.
 #pragma once
 
@@ -25,7 +26,7 @@ struct Rect {
 
 // One node of a layout. Stretch is the share of spare room along the parent's direction.
 struct Layout {
-    enum class Kind { Item, Space, Row, Column, Grid, Group };
+    enum class Kind { Item, Space, Row, Column, Grid, Group, Stack };
 
     Kind kind = Kind::Space;
     Control* control = nullptr;  // Item: the control; Group: the frame or panel around the child
@@ -43,6 +44,8 @@ Layout UniformRow(std::initializer_list<Layout> children, int stretch = 0);
 Layout UniformColumn(std::initializer_list<Layout> children, int stretch = 0);
 Layout Grid(int columns, std::initializer_list<Layout> children, int stretch = 0);
 Layout Group(Control& around, Layout child, int stretch = 0);
+// All children in one place, of which one at a time is visible.
+Layout Stack(std::vector<Layout> children, int stretch = 0);
 
 struct Insets {
     int left = 0;

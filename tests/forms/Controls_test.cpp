@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "CountingView.h"
+
 namespace velkarix {
 namespace {
 
@@ -68,27 +70,54 @@ TEST_F(OptionGroupTest, RunsNoHandlerWhenTheProgramChooses) {
     EXPECT_EQ(clicks, 0);
 }
 
-TEST(TextBox, TellsItsViewOfTheProgramsTextAlone) {
-    struct : ControlView {
-        void Changed(Aspect) override { ++times; }
-        int times = 0;
-    } view;
-    TextBox box("txtTest", "Test", {});
-    box.AttachView(&view);
+class TextBoxTest : public testing::Test {
+  protected:
+    TextBoxTest() { box.AttachView(&view); }
+    ~TextBoxTest() override { box.AttachView(nullptr); }
+
+    int changes = 0;
+    CountingView view;
+    TextBox box{"txtTest", "Test", {}, [this] { ++changes; }};
+};
+
+TEST_F(TextBoxTest, TellsItsViewOfTheProgramsTextAlone) {
     box.TakeInput("typed");
     EXPECT_EQ(box.Value(), "typed");
-    EXPECT_EQ(view.times, 0);
+    EXPECT_EQ(view.Times(Aspect::Value), 0);
     box.SetValue("set");
     EXPECT_EQ(box.Value(), "set");
-    EXPECT_EQ(view.times, 1);
-    box.AttachView(nullptr);
+    EXPECT_EQ(view.Times(Aspect::Value), 1);
 }
 
-class CountingView : public ControlView {
-  public:
-    void Changed(Aspect) override { ++times; }
-    int times = 0;
-};
+TEST_F(TextBoxTest, TellsItsHandlerOfEachChangeWhoeverMakesIt) {
+    box.TakeInput("typed");
+    EXPECT_EQ(changes, 1);
+    box.SetValue("set");
+    EXPECT_EQ(changes, 2);
+}
+
+TEST_F(TextBoxTest, AValueThatItHoldsAlreadyIsNoChange) {
+    box.SetValue("same");
+    box.SetValue("same");
+    box.TakeInput("same");
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(view.Times(Aspect::Value), 1);
+}
+
+TEST_F(TextBoxTest, ItsHandlerSeesTheNewValue) {
+    std::string seen;
+    TextBox* self = nullptr;
+    TextBox watched("txtTest", "Test", {}, [&] { seen = self->Value(); });
+    self = &watched;
+    watched.TakeInput("new");
+    EXPECT_EQ(seen, "new");
+}
+
+TEST_F(TextBoxTest, KeepsAValueWithANulWhole) {
+    const std::string value("a\0b", 3);
+    box.SetValue(value);
+    EXPECT_EQ(box.Value(), value);
+}
 
 TEST(CheckBox, TurnsItsMarkRoundBeforeItsHandlerRuns) {
     bool seen = false;
@@ -110,7 +139,7 @@ TEST(CheckBox, RunsNoHandlerWhenTheProgramChecksIt) {
     box.SetChecked(true);
     EXPECT_TRUE(box.Checked());
     EXPECT_EQ(clicks, 0);
-    EXPECT_EQ(view.times, 1);
+    EXPECT_EQ(view.Times(Aspect::Value), 1);
     box.AttachView(nullptr);
 }
 
@@ -129,7 +158,7 @@ TEST(ColorBox, TellsItsViewOfANewColour) {
     box.AttachView(&view);
     box.SetBoxColor(0x00FF8040);
     EXPECT_EQ(box.BoxColor(), 0x00FF8040u);
-    EXPECT_EQ(view.times, 1);
+    EXPECT_EQ(view.Times(Aspect::Look), 1);
     box.AttachView(nullptr);
 }
 

@@ -98,6 +98,23 @@ TEST_F(LayoutTest, AGroupStandsAroundItsChildAndBeforeItInTheList) {
     EXPECT_EQ(placements[1].area, (Rect{10, 20, 80, 70}));
 }
 
+TEST_F(LayoutTest, AStackIsAsLargeAsTheLargestInEachDirection) {
+    EXPECT_EQ(MinimumSize(Stack({Item(a), Item(b)}), metrics), (Size{50, 20}));
+    EXPECT_EQ(MinimumSize(Stack({}), metrics), (Size{0, 0}));
+}
+
+TEST_F(LayoutTest, AStackGivesItsWholePlaceToEachOfItsChildren) {
+    auto places = Places(Stack({Group(frame, Item(a, 1)), Item(b, 1)}), {5, 6, 100, 80});
+    EXPECT_EQ(places[&frame], (Rect{5, 6, 100, 80}));
+    EXPECT_EQ(places[&a], (Rect{15, 26, 80, 50}));
+    EXPECT_EQ(places[&b], (Rect{5, 6, 100, 80}));
+}
+
+TEST_F(LayoutTest, AStackTakesItsShareOfSpareRoom) {
+    auto places = Places(Column({Item(a), Stack({Item(b, 1)}, 1)}), {0, 0, 50, 100});
+    EXPECT_EQ(places[&b], (Rect{0, 25, 50, 75}));
+}
+
 TEST_F(LayoutTest, TooLittleRoomNeverMakesANegativeSize) {
     for (const Placement& each :
          Arrange(Group(frame, Row({Item(a, 1), Item(b)})), {0, 0, 10, 10}, metrics)) {

@@ -9,7 +9,15 @@ PanelWindow::PanelWindow(DesktopContext& context, Panel& panel, const ControlPla
     : ControlWindow(context, panel, place, {AreaClass, 0}), panel_(panel) {}
 
 Shade PanelWindow::ShadeOf(Panel::Look look) {
-    return look == Panel::Look::Banner ? Shade::Banner : Shade::Strip;
+    switch (look) {
+        case Panel::Look::Banner:
+            return Shade::Banner;
+        case Panel::Look::Strip:
+            return Shade::Strip;
+        case Panel::Look::Plain:
+            break;
+    }
+    return Shade::Face;
 }
 
 void PanelWindow::AppearanceChanged() {

@@ -12,7 +12,7 @@ ControlWindow::ControlWindow(DesktopContext& context, Control& model, const Cont
     : context_(context), model_(model), ground_(place.ground) {
     DWORD style = WS_CHILD | WS_CLIPSIBLINGS | kind.style;
     if (place.startsGroup) style |= WS_GROUP;
-    if (model.Visible()) style |= WS_VISIBLE;
+    if (model.Shown()) style |= WS_VISIBLE;
     if (!model.Enabled()) style |= WS_DISABLED;
     handle_ = CreateWindowExA(kind.extendedStyle, kind.windowClass, model.Text().c_str(), style,
                               place.area.x, place.area.y, place.area.width, place.area.height,
@@ -76,8 +76,8 @@ void ControlWindow::Changed(Aspect aspect) {
             EnableWindow(handle_, model_.Enabled() ? TRUE : FALSE);
             return;
         case Aspect::Visible:
-            if (!model_.Visible()) PassFocusOn();
-            ShowWindow(handle_, model_.Visible() ? SW_SHOWNA : SW_HIDE);
+            if (!model_.Shown()) PassFocusOn();
+            ShowWindow(handle_, model_.Shown() ? SW_SHOWNA : SW_HIDE);
             return;
         default:
             return;

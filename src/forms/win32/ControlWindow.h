@@ -35,7 +35,7 @@ class ControlWindow : public ControlView {
 
     HWND Handle() const { return handle_; }
     Control& Model() const { return model_; }
-    void Move(const Rect& area) const;
+    virtual void Move(const Rect& area) const;
     // Behind all other controls of the form.
     void SendToBack() const;
     // Parts the window from its control, which may go at once; the window is dead but stands.
@@ -53,6 +53,7 @@ class ControlWindow : public ControlView {
 
     // The user pressed Enter here: true when that meant something to the control.
     virtual bool OnEnter() { return false; }
+    virtual bool OnEscape() { return false; }  // likewise, of Esc
     // The system's colours have changed.
     virtual void AppearanceChanged() {}
     // Whether other controls of the form stand on this one.

@@ -5,10 +5,12 @@
 #include "forms/win32/ButtonWindows.h"
 #include "forms/win32/CheckBoxWindow.h"
 #include "forms/win32/ColorBoxWindow.h"
+#include "forms/win32/ComboBoxWindow.h"
 #include "forms/win32/LinkWindow.h"
 #include "forms/win32/ListViewWindow.h"
 #include "forms/win32/PictureButtonWindow.h"
 #include "forms/win32/StaticWindows.h"
+#include "forms/win32/TabStripWindow.h"
 #include "forms/win32/TextBoxWindow.h"
 
 namespace velkarix {
@@ -21,14 +23,15 @@ class Maker : public ControlVisitor {
     std::unique_ptr<ControlWindow> Made() { return std::move(made_); }
 
     void Visit(Button& control) override {
-        if (control.ButtonLook() == Button::Look::Picture) {
-            Make<PictureButtonWindow>(control);
-        } else {
+        if (control.ButtonLook() == Button::Look::Command) {
             Make<CommandButtonWindow>(control);
+        } else {
+            Make<PictureButtonWindow>(control);
         }
     }
     void Visit(CheckBox& control) override { Make<CheckBoxWindow>(control); }
     void Visit(ColorBox& control) override { Make<ColorBoxWindow>(control); }
+    void Visit(ComboBox& control) override { Make<ComboBoxWindow>(control); }
     void Visit(Frame& control) override { Make<FrameWindow>(control); }
     void Visit(Label& control) override { Make<LabelWindow>(control); }
     void Visit(LinkLabel& control) override { Make<LinkWindow>(control); }
@@ -37,6 +40,7 @@ class Maker : public ControlVisitor {
     void Visit(PageHost& control) override { Make<PageHostWindow>(control); }
     void Visit(Panel& control) override { Make<PanelWindow>(control); }
     void Visit(PictureBox& control) override { Make<PictureWindow>(control); }
+    void Visit(TabStrip& control) override { Make<TabStripWindow>(control); }
     void Visit(TextBox& control) override { Make<TextBoxWindow>(control); }
 
   private:

@@ -40,7 +40,7 @@ bool RaiseAccelerator(FormWindow& form, FormWindow* page, WPARAM code) {
 
 bool PressDefaultButton(const FormWindow* form) {
     Button* button = form != nullptr ? form->Model().DefaultButton() : nullptr;
-    return button != nullptr && button->Raise("Click");
+    return button != nullptr && button->Shown() && button->Raise("Click");
 }
 
 // The focused control comes first, then the default button of the page, then that of the form.
@@ -51,8 +51,11 @@ void OnEnter(const FormWindow& form, const FormWindow* page, HWND focus) {
     if (!PressDefaultButton(page)) PressDefaultButton(&form);
 }
 
-// Esc is the dialog's cancel button, and closes a dialog that has none.
-bool OnEscape(const FormWindow& form) {
+// The focused control comes first here too. Else Esc is the dialog's cancel button, and closes a
+// dialog that has none.
+bool OnEscape(const FormWindow& form, HWND focus) {
+    ControlWindow* control = focus != nullptr ? ControlWindow::From(focus) : nullptr;
+    if (control != nullptr && control->OnEscape()) return true;
     if (form.Model().Kind() != FormKind::Dialog) return false;
     if (Button* button = form.Model().CancelButton()) {
         button->Raise("Click");
@@ -75,7 +78,7 @@ bool ServeFormKeys(const FormWindows& forms, MSG& message) {
             OnEnter(*form, page, message.hwnd);
             return true;
         }
-        if (message.wParam == VK_ESCAPE && OnEscape(*form)) return true;
+        if (message.wParam == VK_ESCAPE && OnEscape(*form, message.hwnd)) return true;
     }
     return IsDialogMessageA(form->Handle(), &message) != FALSE;
 }

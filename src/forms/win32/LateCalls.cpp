@@ -16,7 +16,10 @@ Function CommonControlsCall(const char* name) {
 void RegisterCommonControls() {
     using Call = BOOL(WINAPI*)(const INITCOMMONCONTROLSEX*);
     if (const auto call = CommonControlsCall<Call>("InitCommonControlsEx")) {
-        const INITCOMMONCONTROLSEX wanted{sizeof(INITCOMMONCONTROLSEX), ICC_LISTVIEW_CLASSES};
+        // A row of tabs that is too long for its place has arrows, which are another class.
+        const INITCOMMONCONTROLSEX wanted{sizeof(INITCOMMONCONTROLSEX), ICC_LISTVIEW_CLASSES |
+                                                                            ICC_TAB_CLASSES |
+                                                                            ICC_UPDOWN_CLASS};
         call(&wanted);
     } else {
         InitCommonControls();

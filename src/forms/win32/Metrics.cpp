@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
+#include "forms/ComboBox.h"
 #include "forms/Controls.h"
 #include "forms/ListView.h"
+#include "forms/TabStrip.h"
 #include "forms/win32/Screen.h"
 
 namespace velkarix {
@@ -41,6 +43,11 @@ Insets Metrics::FormMargins(FormKind kind) {
     return {};
 }
 
+const NativeMeasures& Metrics::Natives() {
+    if (!natives_) natives_ = MeasureNatives(fonts_.Dialog());
+    return *natives_;
+}
+
 void Metrics::Visit(Button& control) {
     const Size caption = CaptionExtent(fonts_.Dialog(), control.Text());
     if (control.ButtonLook() == Button::Look::Picture) {
@@ -67,6 +74,15 @@ void Metrics::Visit(ColorBox&) {
     size_ = {dpi_.Pixels(48), dpi_.Pixels(20)};
 }
 
+void Metrics::Visit(ComboBox& control) {
+    int widest = 0;
+    for (const std::string& entry : control.Entries()) {
+        widest = std::max(widest, TextExtent(fonts_.Dialog(), entry).width);
+    }
+    // Edges, the room that the native box keeps around its text, and the arrow.
+    size_ = {widest + GetSystemMetrics(SM_CXVSCROLL) + dpi_.Pixels(12), Natives().boxHeight};
+}
+
 void Metrics::Visit(Frame&) {
     const int edge = dpi_.Pixels(9);
     insets_ = {edge, CaptionExtent(fonts_.Dialog(), {}).height + dpi_.Pixels(6), edge, edge};
@@ -75,9 +91,11 @@ void Metrics::Visit(Frame&) {
 void Metrics::Visit(Panel& control) {
     const int edge = dpi_.Pixels(6);
     const int side = dpi_.Pixels(12);
-    insets_ = control.PanelLook() == Panel::Look::Banner
-                  ? Insets{side, edge, side, edge + BannerLine()}
-                  : Insets{0, edge, 0, edge};
+    if (control.PanelLook() == Panel::Look::Banner) {
+        insets_ = {side, edge, side, edge + BannerLine()};
+    } else if (control.PanelLook() == Panel::Look::Strip) {
+        insets_ = {0, edge, 0, edge};
+    }
 }
 
 void Metrics::Visit(Label& control) {
@@ -104,6 +122,12 @@ void Metrics::Visit(PageHost&) {}
 
 void Metrics::Visit(PictureBox& control) {
     size_ = {dpi_.Pixels(control.PictureSize()), dpi_.Pixels(control.PictureSize())};
+}
+
+void Metrics::Visit(TabStrip&) {
+    const Insets& around = Natives().aroundTabPage;
+    const int edge = dpi_.Pixels(5);
+    insets_ = {around.left + edge, around.top + edge, around.right + edge, around.bottom + edge};
 }
 
 void Metrics::Visit(TextBox& control) {

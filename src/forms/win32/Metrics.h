@@ -1,11 +1,14 @@
 // The sizes of controls and distances, from the dialog font and the machine's DPI.
 #pragma once
 
+#include <optional>
+
 #include "forms/ControlVisitor.h"
 #include "forms/Form.h"
 #include "forms/Layout.h"
 #include "forms/win32/Dpi.h"
 #include "forms/win32/Fonts.h"
+#include "forms/win32/NativeMeasures.h"
 
 namespace velkarix {
 
@@ -25,9 +28,11 @@ class Metrics : public LayoutMetrics, private ControlVisitor {
 
   private:
     Size MarkedCaption(const Control& control) const;
+    const NativeMeasures& Natives();
     void Visit(Button& control) override;
     void Visit(CheckBox& control) override;
     void Visit(ColorBox& control) override;
+    void Visit(ComboBox& control) override;
     void Visit(Frame& control) override;
     void Visit(Label& control) override;
     void Visit(LinkLabel& control) override;
@@ -36,13 +41,15 @@ class Metrics : public LayoutMetrics, private ControlVisitor {
     void Visit(PageHost& control) override;
     void Visit(Panel& control) override;
     void Visit(PictureBox& control) override;
+    void Visit(TabStrip& control) override;
     void Visit(TextBox& control) override;
 
     const Dpi& dpi_;
     const Fonts& fonts_;
     int pageIconSize_;
-    Size size_;      // what the last visit found
-    Insets insets_;  // likewise, of a group
+    std::optional<NativeMeasures> natives_;  // once they were needed
+    Size size_;                              // what the last visit found
+    Insets insets_;                          // likewise, of a group
 };
 
 }  // namespace velkarix
