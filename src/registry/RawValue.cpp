@@ -11,6 +11,32 @@ constexpr std::size_t UsualSize = 4096;
 constexpr int Attempts = 4;
 constexpr std::uint32_t LargestValue = 64 * 1024 * 1024;
 
+// `read` fills the buffer and tells the value's size: it is called again with a buffer of that size
+// when the first was too small.
+template <typename Read>
+ErrorCode ReadGrowing(Bytes& data, Read read) {
+    data.assign(UsualSize, 0);
+    for (int attempt = 1;; ++attempt) {
+        auto size = static_cast<std::uint32_t>(data.size());
+        const ErrorCode result = read(data, size);
+        if (result == error::Success) {
+            data.resize(std::min<std::size_t>(size, data.size()));
+            return result;
+        }
+        const bool isLarger = size > data.size();
+        // One more call is due in any case; more than that only while the value grows meanwhile.
+        if (result != error::MoreData || (attempt > 1 && !isLarger) || attempt == Attempts) {
+            return result;
+        }
+        if (isLarger && !MakeRoom(data, size)) return result;
+    }
+}
+
+bool IsText(std::uint32_t type) {
+    return type == registryType::Sz || type == registryType::ExpandSz ||
+           type == registryType::MultiSz;
+}
+
 }  // namespace
 
 bool MakeRoom(Bytes& buffer, std::uint32_t size) {
@@ -21,22 +47,26 @@ bool MakeRoom(Bytes& buffer, std::uint32_t size) {
 
 ErrorCode EnumRawValue(Registry& registry, KeyHandle key, std::uint32_t index,
                        std::uint32_t nameCapacity, RawValue& value) {
-    value.data.assign(UsualSize, 0);
-    for (int attempt = 1;; ++attempt) {
-        auto size = static_cast<std::uint32_t>(value.data.size());
-        const ErrorCode result = registry.RegEnumValueA(key, index, nameCapacity, value.name,
-                                                        value.type, value.data, size);
-        if (result == error::Success) {
-            value.data.resize(std::min<std::size_t>(size, value.data.size()));
-            return result;
-        }
-        const bool isLarger = size > value.data.size();
-        // One more call is due in any case; more than that only while the value grows meanwhile.
-        if (result != error::MoreData || (attempt > 1 && !isLarger) || attempt == Attempts) {
-            return result;
-        }
-        if (isLarger && !MakeRoom(value.data, size)) return result;
-    }
+    return ReadGrowing(value.data, [&](Bytes& data, std::uint32_t& size) {
+        return registry.RegEnumValueA(key, index, nameCapacity, value.name, value.type, data, size);
+    });
+}
+
+ErrorCode QueryRawValue(Registry& registry, KeyHandle key, const std::string& name,
+                        RawValue& value) {
+    value.name = name;
+    return ReadGrowing(value.data, [&](Bytes& data, std::uint32_t& size) {
+        return registry.RegQueryValueExA(key, name, value.type, &data, size);
+    });
+}
+
+bool StandsAs(const RawValue& standing, const RawValue& wanted) {
+    if (standing.type != wanted.type) return false;
+    if (standing.data == wanted.data) return true;
+    if (!IsText(wanted.type) || wanted.data.empty() || wanted.data.back() == 0) return false;
+    Bytes ended = wanted.data;
+    ended.push_back(0);
+    return standing.data == ended;
 }
 
 }  // namespace velkarix

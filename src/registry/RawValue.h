@@ -20,8 +20,15 @@ struct RawValue {
 // read stays MoreData, as does one whose name is too long.
 ErrorCode EnumRawValue(Registry& registry, KeyHandle key, std::uint32_t index,
                        std::uint32_t nameCapacity, RawValue& value);
+// Reads the value of this name in the same way.
+ErrorCode QueryRawValue(Registry& registry, KeyHandle key, const std::string& name,
+                        RawValue& value);
 
 // The memory for a value of a size that the registry claims; false when no real value is as large.
 bool MakeRoom(Bytes& buffer, std::uint32_t size);
+
+// Whether what stands in the registry is what was to be written: type and bytes, without the name.
+// The NUL that the system puts behind a text that lacks one makes no difference.
+bool StandsAs(const RawValue& standing, const RawValue& wanted);
 
 }  // namespace velkarix

@@ -5,15 +5,13 @@
 
 #include "base/Text.h"
 #include "registry/CopyKeyTree.h"
+#include "registry/KeyListing.h"
 #include "registry/OpenKey.h"
 
 namespace velkarix {
 namespace {
 
 constexpr const char* Break = LineBreak.data();
-
-// No tree of the system is deeper; a link that leads back up makes an endless one.
-constexpr int DeepestLevel = 512;
 
 }  // namespace
 
@@ -70,26 +68,22 @@ bool modRegistry::CreateKey(Hive hive, const std::string& key) {
 
 bool modRegistry::DeleteKey(Hive hive, const std::string& key, bool quiet) {
     const ErrorCode deleted = registry_.RegDeleteKeyA(Registry::HandleOf(hive), key);
-    if (deleted != error::Success && !quiet) {
-        ShowFailure("Key Could not be deleted", key + Break, deleted);
-    }
+    if (deleted != error::Success && !quiet) ShowKeyNotDeleted(key, deleted);
     return deleted == error::Success;
 }
 
 bool modRegistry::DeleteValue(Hive hive, const std::string& key, const std::string& valueName,
                               bool quiet) {
-    const char* failure = "Key Value Could not be opened";
     OpenKey open(registry_);
-    ErrorCode result = open.Open(Registry::HandleOf(hive), key, KeyAccess::All);
-    if (result == error::Success) {
-        failure = "Key Value Could not be deleted";
-        result = registry_.RegDeleteValueA(open.Handle(), valueName);
+    const ErrorCode opened = open.Open(Registry::HandleOf(hive), key, KeyAccess::All);
+    if (opened != error::Success) {
+        if (!quiet) ShowValueFailure("Key Value Could not be opened", key, valueName, opened);
+        return false;
     }
+    const ErrorCode deleted = registry_.RegDeleteValueA(open.Handle(), valueName);
     open.Close();
-    if (result != error::Success && !quiet) {
-        ShowFailure(failure, key + Break + Break + valueName, result);
-    }
-    return result == error::Success;
+    if (deleted != error::Success && !quiet) ShowValueNotDeleted(key, valueName, deleted);
+    return deleted == error::Success;
 }
 
 bool modRegistry::DeleteSubKeys(Hive hive, const std::string& key) {
@@ -98,7 +92,7 @@ bool modRegistry::DeleteSubKeys(Hive hive, const std::string& key) {
 }
 
 bool modRegistry::DeleteBelow(Hive hive, const std::string& key, int level, bool& opened) {
-    if (level > DeepestLevel) return false;
+    if (level > DeepestKeyLevel) return false;
     OpenKey open(registry_);
     opened = open.Open(Registry::HandleOf(hive), key, KeyAccess::All) == error::Success;
     if (!opened) return true;
@@ -143,6 +137,20 @@ bool modRegistry::CopyKey(Hive srcHive, const std::string& srcKey, Hive destHive
 std::string modRegistry::GetSystemErrorText(ErrorCode code) {
     constexpr std::uint32_t Capacity = 256;
     return system_.FormatMessageA(code, Capacity);
+}
+
+void modRegistry::ShowKeyNotDeleted(const std::string& key, ErrorCode code) {
+    ShowFailure("Key Could not be deleted", key + Break, code);
+}
+
+void modRegistry::ShowValueNotDeleted(const std::string& key, const std::string& valueName,
+                                      ErrorCode code) {
+    ShowValueFailure("Key Value Could not be deleted", key, valueName, code);
+}
+
+void modRegistry::ShowValueFailure(const char* what, const std::string& key,
+                                   const std::string& valueName, ErrorCode code) {
+    ShowFailure(what, key + Break + Break + valueName, code);
 }
 
 void modRegistry::ShowFailure(const char* what, const std::string& detail, ErrorCode code) {

@@ -66,6 +66,11 @@ class modRegistry {
     bool GetBinaryValue(Hive hive, const std::string& key, const std::string& valueName,
                         Bytes& bytes, bool expect552);
 
+    // What the user reads when a key or value can't be deleted: for a move that finds out before it
+    // deletes that it mustn't.
+    void ShowKeyNotDeleted(const std::string& key, ErrorCode code);
+    void ShowValueNotDeleted(const std::string& key, const std::string& valueName, ErrorCode code);
+
     // The system's text for a code, with the line break at its end; empty when it has none.
     std::string GetSystemErrorText(ErrorCode code);
 
@@ -74,6 +79,8 @@ class modRegistry {
                   std::uint32_t type, const Bytes& data, bool quiet);
     // False when the walk must end: the tree is deeper than any real one.
     bool DeleteBelow(Hive hive, const std::string& key, int level, bool& opened);
+    void ShowValueFailure(const char* what, const std::string& key, const std::string& valueName,
+                          ErrorCode code);
     void ShowFailure(const char* what, const std::string& detail, ErrorCode code);
 
     Registry& registry_;

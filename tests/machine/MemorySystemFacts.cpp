@@ -18,6 +18,8 @@ constexpr ErrorText errorTexts[] = {
     {error::PathNotFound, "The system cannot find the path specified."},
     {error::AccessDenied, "Access is denied."},
     {error::InvalidHandle, "The handle is invalid."},
+    {error::InvalidData, "The data is invalid."},
+    {error::WriteFault, "The system cannot write to the specified device."},
     {error::SharingViolation,
      "The process cannot access the file because it is being used by another process."},
     {error::HandleDiskFull, "The disk is full."},
@@ -27,6 +29,7 @@ constexpr ErrorText errorTexts[] = {
     {error::MoreData, "More data is available."},
     {error::NoMoreItems, "No more data is available."},
     {error::BadKey, "The configuration registry key is invalid."},
+    {error::CantWrite, "The configuration registry key could not be written."},
     {error::KeyDeleted,
      "Illegal operation attempted on a registry key that has been marked for deletion."},
 };
