@@ -1,0 +1,45 @@
+#include "shell/DeleteItem.h"
+
+#include "base/Text.h"
+#include "registry/RegistryFile.h"
+#include "shell/RegistryBackup.h"
+#include "shell/Relocation.h"
+
+namespace velkarix {
+namespace {
+
+// True when the caller may delete what `sections` holds; `exported` is the result of writing them.
+bool BackUpItem(Application& application, const std::string& listName, ErrorCode exported,
+                const std::string& sections) {
+    if (exported == error::FileNotFound) return false;
+    const ErrorCode kept =
+        exported == error::Success ? KeepRegistryFile(application, listName, sections) : exported;
+    if (kept == error::Success) return true;
+    application.Tell(MessageIcon::Information,
+                     "Error Occurred backupItem: " + std::string(LineBreak) +
+                         application.registry.GetSystemErrorText(kept));
+    return false;
+}
+
+}  // namespace
+
+void DeleteItemKey(Application& application, const std::string& listName, Hive hive,
+                   const std::string& key) {
+    std::string sections;
+    const ErrorCode exported = ExportKeyTree(application.machine.registry, hive, key, sections);
+    if (BackUpItem(application, listName, exported, sections)) {
+        DeleteKeyTree(application, hive, key);
+    }
+}
+
+void DeleteItemValue(Application& application, const std::string& listName, Hive hive,
+                     const std::string& key, const std::string& valueName) {
+    std::string sections;
+    const ErrorCode exported =
+        ExportValue(application.machine.registry, hive, key, valueName, sections);
+    if (BackUpItem(application, listName, exported, sections)) {
+        application.registry.DeleteValue(hive, key, valueName, false);
+    }
+}
+
+}  // namespace velkarix

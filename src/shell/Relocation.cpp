@@ -1,0 +1,47 @@
+#include "shell/Relocation.h"
+
+#include "registry/KeyTree.h"
+#include "shell/ValueMove.h"
+
+namespace velkarix {
+
+void RelocateKey(Application& application, Hive hive, const std::string& source,
+                 const std::string& destination) {
+    Registry& raw = application.machine.registry;
+    if (!KeyExists(raw, hive, source)) return;
+    const bool destinationWasThere = KeyExists(raw, hive, destination);
+    const bool copied = application.registry.CopyKey(hive, source, hive, destination);
+    // A copy that reports success may still be short.
+    const ErrorCode compared =
+        copied ? ContainsTree(raw, hive, destination, source) : error::CantWrite;
+    if (compared == error::Success) {
+        DeleteKeyTree(application, hive, source);
+        return;
+    }
+    // What a failed copy leaves where there was nothing would be listed as an item.
+    if (!destinationWasThere) {
+        application.registry.DeleteSubKeys(hive, destination);
+        application.registry.DeleteKey(hive, destination, true);
+    }
+    if (copied) application.registry.ShowKeyNotDeleted(source, compared);
+}
+
+bool DeleteKeyTree(Application& application, Hive hive, const std::string& key) {
+    application.registry.DeleteSubKeys(hive, key);
+    return application.registry.DeleteKey(hive, key, false);
+}
+
+void RelocateValue(Application& application, const std::string& listName, Hive hive,
+                   const std::string& source, const std::string& destination,
+                   const std::string& valueName) {
+    MoveValue(application, {listName, "endisHook", hive, source, destination, valueName}, textForm);
+}
+
+void RelocateToolbarValue(Application& application, const std::string& listName, Hive hive,
+                          const std::string& source, const std::string& destination,
+                          const std::string& valueName) {
+    MoveValue(application, {listName, "endisToolbar", hive, source, destination, valueName},
+              hive == Hive::CurrentUser ? markForm : textForm);
+}
+
+}  // namespace velkarix
