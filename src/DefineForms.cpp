@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "browser/frmIE.h"
 #include "options/frmOptions.h"
 #include "process/VerdictCache.h"
 #include "process/frmProcess.h"
@@ -26,7 +27,6 @@ struct ToCome {
     const char* what;
 };
 const ToCome PagesToCome[] = {
-    {"frmIE", "Internet Explorer"},
     {"frmStartup", "Startup"},
     {"frmAddRemove", "Add/Remove"},
     {"frmUtilities", "Utilities"},
@@ -37,6 +37,7 @@ const ToCome PagesToCome[] = {
 void DefineForms(Application& application) {
     DefineForm<frmMain>(application, "frmMain");
     DefineForm<frmAbout>(application, "frmAbout");
+    DefineForm<frmIE>(application, "frmIE");
     DefineForm<frmOptions>(application, "frmOptions");
     DefineForm<frmviewInfo>(application, "frmviewInfo");
     // The cache lives as long as the program: a page that is left and entered hashes nothing again.

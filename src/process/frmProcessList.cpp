@@ -15,6 +15,8 @@ namespace velkarix {
 
 namespace {
 
+constexpr const char* Pictures[] = {SoftwarePicture};
+
 constexpr FileColumns FactColumns = {processColumn::Size, processColumn::Created,
                                      processColumn::Company, processColumn::Product,
                                      processColumn::Description};
@@ -22,7 +24,7 @@ constexpr FileColumns FactColumns = {processColumn::Size, processColumn::Created
 }  // namespace
 
 void frmProcess::LoadProcessList() {
-    ClearRows(lstvProcess_, imglProcess_);
+    ClearRows(lstvProcess_, imglProcess_, Pictures);
     for (const ProcessEntry& entry :
          ListProcesses(application_.machine, application_.WindowsName)) {
         ShowEntry(entry.path, entry.id);

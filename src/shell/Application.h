@@ -50,6 +50,8 @@ class Application {
     DefinitionList SusProcessList;
     DefinitionList SusInstallList;
 
+    bool itemChangeRuns = false;  // see shell/ItemChange.h
+
     // Last, so that forms go before what they use.
     FormSet forms;
 

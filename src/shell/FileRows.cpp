@@ -9,12 +9,12 @@
 
 namespace velkarix {
 
-void ClearRows(ListView& list, ImageList& images) {
+void ClearRows(ListView& list, ImageList& images, std::span<const char* const> stockPictures) {
     list.Clear();
     list.SetImages(nullptr);
     images.Clear();
-    images.Add(StockPicture{"Software"});
-    list.SetImages(&images);
+    for (const char* picture : stockPictures) images.Add(StockPicture{picture});
+    if (!stockPictures.empty()) list.SetImages(&images);
 }
 
 std::size_t AddFileIcon(Shell& shell, ImageList& images, const std::string& path, int index) {

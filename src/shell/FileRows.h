@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 
 #include "forms/ImageList.h"
@@ -22,8 +23,11 @@ struct FileColumns {
     std::size_t description;
 };
 
-// Empties the list, and its pictures but for the default one.
-void ClearRows(ListView& list, ImageList& images);
+// The stock picture of a row that stands for a program or library without an icon of its own.
+inline constexpr const char* SoftwarePicture = "Software";
+
+// Empties the list, and its pictures but for those stock pictures. Without any the list shows none.
+void ClearRows(ListView& list, ImageList& images, std::span<const char* const> stockPictures);
 // Adds the file's small icon at `index`. Gives the image, which is the default one when there is
 // no such icon.
 std::size_t AddFileIcon(Shell& shell, ImageList& images, const std::string& path, int index = 0);

@@ -2,8 +2,8 @@
 
 namespace velkarix {
 
-void SkinWindow(Form& form) {
-    form.SetSkinElement("window");
+void SkinWindow(Form& form, const std::string& element) {
+    form.SetSkinElement(element);
 }
 
 void SkinControl(Control& control, const std::string& element) {

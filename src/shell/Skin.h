@@ -8,8 +8,8 @@
 
 namespace velkarix {
 
-// Gives a window the program's frame.
-void SkinWindow(Form& form);
+// Gives a window the look of a named element ("window", "free").
+void SkinWindow(Form& form, const std::string& element);
 // Gives a control the look of a named element ("Process", "button").
 void SkinControl(Control& control, const std::string& element);
 

@@ -87,7 +87,7 @@ void frmMain::Form_Load() {
 }
 
 void frmMain::ApplySkin() {
-    SkinWindow(*this);
+    SkinWindow(*this, "window");
     for (std::size_t i = 0; i < std::size(Pages); ++i) {
         SkinControl(*pageButtons_[i], Pages[i].skinElement);
     }

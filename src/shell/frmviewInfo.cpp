@@ -96,7 +96,7 @@ void frmviewInfo::SetItem(std::string name, std::string path, std::string size) 
 }
 
 void frmviewInfo::Form_Load() {
-    SkinWindow(*this);
+    SkinWindow(*this, "window");
     SkinControl(cmdOk_, "button");
     ShowIcon();
     lblName_.SetText(itemName_);

@@ -9,6 +9,8 @@
 namespace velkarix {
 namespace {
 
+constexpr const char* Pictures[] = {SoftwarePicture};
+
 class FileRowsTest : public testing::Test {
   protected:
     MemoryMachine machine;
@@ -21,7 +23,7 @@ TEST_F(FileRowsTest, BeginWithTheDefaultPictureAlone) {
     images.Add(Picture{});
     images.Add(Picture{});
     list.Add("A", "row", 2);
-    ClearRows(list, images);
+    ClearRows(list, images, Pictures);
     EXPECT_EQ(list.RowCount(), 0u);
     ASSERT_EQ(images.Count(), DefaultImage);
     EXPECT_EQ(std::get<StockPicture>(images.At(DefaultImage)).name, "Software");
@@ -43,10 +45,15 @@ TEST_F(FileRowsTest, ShowTheFactsOfTheFileInTheColumnsOfTheList) {
 }
 
 TEST_F(FileRowsTest, TakeTheDefaultPictureForAFileWithoutAnIcon) {
-    ClearRows(list, images);
+    ClearRows(list, images, Pictures);
     machine.AddFile("C:\\plain.dll").Content("x");
     EXPECT_EQ(AddFileIcon(machine.shell, images, "C:\\plain.dll"), DefaultImage);
     EXPECT_EQ(images.Count(), 1u);
+}
+
+TEST_F(FileRowsTest, ShowNoPicturesInAListThatHasNone) {
+    ClearRows(list, images, {});
+    EXPECT_EQ(list.Images(), nullptr);
 }
 
 }  // namespace

@@ -167,9 +167,9 @@ TEST_F(MainFormTest, SwitchesPagesByKeys) {
 
 TEST_F(MainFormTest, SaysWhereAPageIsStillToCome) {
     program.Start();
-    Click("cmdIE");
-    EXPECT_EQ(program.Get<Label>("frmIE", "lblToCome").Text(),
-              "Internet Explorer: this page is not built yet. It comes with a later version of "
+    Click("cmdStartup");
+    EXPECT_EQ(program.Get<Label>("frmStartup", "lblToCome").Text(),
+              "Startup: this page is not built yet. It comes with a later version of "
               "the program.");
 }
 
