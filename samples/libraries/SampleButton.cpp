@@ -1,0 +1,2 @@
+// What a harmless button of the browser runs.
+#include "libraries/Component.h"

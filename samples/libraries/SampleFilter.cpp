@@ -1,0 +1,2 @@
+// A harmless protocol filter: a file without icon and version resource.
+#include "libraries/Component.h"

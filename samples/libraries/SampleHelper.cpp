@@ -1,0 +1,2 @@
+// A harmless browser helper object.
+#include "libraries/Component.h"

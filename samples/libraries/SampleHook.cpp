@@ -1,0 +1,2 @@
+// A harmless URL search hook.
+#include "libraries/Component.h"

@@ -1,0 +1,2 @@
+// A harmless protocol handler.
+#include "libraries/Component.h"

@@ -1,0 +1,2 @@
+// A harmless component that the sample definition lists know by its digest.
+#include "libraries/Component.h"

@@ -1,0 +1,2 @@
+// A harmless toolbar.
+#include "libraries/Component.h"
