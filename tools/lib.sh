@@ -4,6 +4,9 @@
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # shellcheck disable=SC2034  # read by the scripts that source this file
 cache=$root/.cache
+# Where the program, its samples and its driver were built.
+# shellcheck disable=SC2034
+windows_build=${VELKARIX_BUILD:-$root/build/windows-x86}
 
 fail() {
     echo "${0##*/}: $*" >&2
