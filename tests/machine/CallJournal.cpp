@@ -4,10 +4,24 @@
 #include <utility>
 
 namespace velkarix {
+namespace {
+
+bool IsClosing(std::string_view name) {
+    return name == "RegCloseKey" || name == "CloseFile" || name == "CloseHandle" ||
+           name == "FindClose";
+}
+
+}  // namespace
 
 ErrorCode CallJournal::Enter(std::string_view name, std::string arguments) {
     const std::size_t number = calls_.size();
+    if (number >= firstUnreached_ && !IsClosing(name)) {
+        throw ProcessEnded{};
+    }
     calls_.push_back({std::string(name), std::move(arguments)});
+    if (action_ && number == actionCall_) {
+        std::exchange(action_, nullptr)();
+    }
     if (number >= firstFailing_ && number <= lastFailing_) {
         return numberedFailure_;
     }
@@ -28,6 +42,11 @@ void CallJournal::FailCall(std::size_t number, ErrorCode error, bool allFromTher
     firstFailing_ = number;
     lastFailing_ = allFromThereOn ? SIZE_MAX : number;
     numberedFailure_ = error;
+}
+
+void CallJournal::OnCall(std::size_t number, std::function<void()> action) {
+    actionCall_ = number;
+    action_ = std::move(action);
 }
 
 void CallJournal::FailNext(const std::string& name, ErrorCode error) {

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -21,6 +22,9 @@ struct Call {
     friend bool operator==(const Call&, const Call&) = default;
 };
 
+// What ends the code under test where its process is to end.
+struct ProcessEnded {};
+
 class CallJournal {
   public:
     // Every faked call begins with this: it writes the call down and gives the error that it must
@@ -34,6 +38,14 @@ class CallJournal {
 
     // The call of this number, counted from 0 since the last Clear, fails; or all from there on.
     void FailCall(std::size_t number, ErrorCode error, bool allFromThereOn = false);
+
+    // What others do to the machine meanwhile: `action` runs once, right before the call of this
+    // number, counted from 0 since the last Clear, looks at anything.
+    void OnCall(std::size_t number, std::function<void()> action);
+
+    // The process ends at the call of this number: it throws ProcessEnded and does nothing. Closing
+    // a handle is no such call: it changes nothing, and happens while the stack is left.
+    void EndAtCall(std::size_t number) { firstUnreached_ = number; }
 
     const std::vector<Call>& Calls() const { return calls_; }
     // The names alone, in order; handy to assert an order of calls.
@@ -50,7 +62,10 @@ class CallJournal {
     std::map<std::string, ErrorCode, std::less<>> lastingFailures_;
     std::size_t firstFailing_ = SIZE_MAX;
     std::size_t lastFailing_ = 0;
+    std::size_t firstUnreached_ = SIZE_MAX;
     ErrorCode numberedFailure_ = error::Success;
+    std::size_t actionCall_ = 0;
+    std::function<void()> action_;
 };
 
 }  // namespace velkarix

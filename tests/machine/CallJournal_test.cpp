@@ -62,4 +62,19 @@ TEST(CallJournal, AllCallsFailFromANumberOn) {
     EXPECT_EQ(journal.Enter("C"), error::AccessDenied);
 }
 
+TEST(CallJournal, OthersActOnceBeforeACallOfItsNumber) {
+    CallJournal journal;
+    journal.Enter("A");
+    journal.Clear();
+    std::vector<std::size_t> callsBefore;
+    journal.OnCall(1, [&] { callsBefore.push_back(journal.Calls().size()); });
+    journal.Enter("A");
+    EXPECT_TRUE(callsBefore.empty());
+    journal.Enter("B");
+    journal.Clear();
+    journal.Enter("A");
+    journal.Enter("B");
+    EXPECT_EQ(callsBefore, (std::vector<std::size_t>{2}));
+}
+
 }  // namespace velkarix
