@@ -52,6 +52,7 @@ class Control {
     // The control stands in `around`, which hides it when it is hidden itself; null: in the form.
     // Said once, by the form's layout.
     void StandIn(Control* around);
+    Control* Around() const { return around_; }
     // The element of the program's own drawing that gives the control its look; empty is the
     // system's look. Nothing but the drawing depends on it.
     const std::string& SkinElement() const { return skinElement_; }

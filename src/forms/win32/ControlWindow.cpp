@@ -28,6 +28,7 @@ ControlWindow::ControlWindow(DesktopContext& context, Control& model, const Cont
 
 void ControlWindow::Detach() {
     model_.AttachView(nullptr);
+    context_.visibility.Forget(handle_);
     RemoveWindowName(handle_);
     SetWindowLongPtrA(handle_, GWLP_USERDATA, 0);
     SetWindowLongPtrA(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(native_));
@@ -76,15 +77,14 @@ void ControlWindow::Changed(Aspect aspect) {
             EnableWindow(handle_, model_.Enabled() ? TRUE : FALSE);
             return;
         case Aspect::Visible:
-            if (!model_.Shown()) PassFocusOn();
-            ShowWindow(handle_, model_.Shown() ? SW_SHOWNA : SW_HIDE);
+            context_.visibility.Set(handle_, model_.Shown());
             return;
         default:
             return;
     }
 }
 
-// A control that goes out of use would keep the keyboard to itself.
+// A control that is disabled would keep the keyboard to itself.
 void ControlWindow::PassFocusOn() const {
     if (GetFocus() != handle_) return;
     SetFocus(GetNextDlgTabItem(TopLevelOf(handle_), handle_, FALSE));

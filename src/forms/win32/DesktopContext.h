@@ -8,6 +8,7 @@
 #include "forms/win32/Metrics.h"
 #include "forms/win32/Palette.h"
 #include "forms/win32/PendingRefreshes.h"
+#include "forms/win32/PendingVisibility.h"
 #include "forms/win32/WindowsHeaders.h"
 
 namespace velkarix {
@@ -24,6 +25,7 @@ struct DesktopContext {
     Palette palette;
     Metrics metrics{dpi, fonts};
     PendingRefreshes pending;
+    PendingVisibility visibility{pending};
     // Where a popup belongs that is asked for now, in screen coordinates; else it is the mouse.
     std::optional<POINT> popupPoint;
     // How many procedures of our windows are under way, one inside the other.

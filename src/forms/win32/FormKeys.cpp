@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "forms/Controls.h"
+#include "forms/TabStrip.h"
 #include "forms/win32/WindowTree.h"
 
 namespace velkarix {
@@ -51,6 +52,33 @@ void OnEnter(const FormWindow& form, const FormWindow* page, HWND focus) {
     if (!PressDefaultButton(page)) PressDefaultButton(&form);
 }
 
+// The form's strip of tabs that is nearest around the control with the focus, or is that control
+// itself; else the form's first on view. Null when there is none.
+TabStrip* StripFor(const Form& form, HWND focus) {
+    const ControlWindow* window = focus != nullptr ? ControlWindow::From(focus) : nullptr;
+    Control* control = window != nullptr ? &window->Model() : nullptr;
+    for (; control != nullptr; control = control->Around()) {
+        if (auto* strip = dynamic_cast<TabStrip*>(control)) return strip;
+    }
+    for (Control* each : form.Controls()) {
+        auto* strip = dynamic_cast<TabStrip*>(each);
+        if (strip != nullptr && strip->Shown()) return strip;
+    }
+    return nullptr;
+}
+
+// Ctrl+Tab leads to the next tab, with Shift to the one before; the first follows the last.
+bool TurnTabs(const Form& form, HWND focus) {
+    TabStrip* strip = StripFor(form, focus);
+    if (strip == nullptr || !strip->Enabled()) return false;
+    const int count = static_cast<int>(strip->Captions().size());
+    const int step = IsDown(VK_SHIFT) ? count - 1 : 1;
+    const int next = (strip->Selected() - 1 + step) % count + 1;
+    strip->Select(next);
+    strip->UserSelect(next);
+    return true;
+}
+
 // The focused control comes first here too. Else Esc is the dialog's cancel button, and closes a
 // dialog that has none.
 bool OnEscape(const FormWindow& form, HWND focus) {
@@ -78,6 +106,9 @@ bool ServeFormKeys(const FormWindows& forms, MSG& message) {
             OnEnter(*form, page, message.hwnd);
             return true;
         }
+        const Form& innermost = page != nullptr ? page->Model() : form->Model();
+        const bool turn = message.wParam == VK_TAB && IsDown(VK_CONTROL);
+        if (turn && TurnTabs(innermost, message.hwnd)) return true;
         if (message.wParam == VK_ESCAPE && OnEscape(*form, message.hwnd)) return true;
     }
     return IsDialogMessageA(form->Handle(), &message) != FALSE;

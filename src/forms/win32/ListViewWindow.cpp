@@ -72,7 +72,12 @@ void ListViewWindow::Refresh() {
 void ListViewWindow::ShowSelection() {
     LVITEMA item{};
     item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-    Send(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&item));
+    // One row at most has either. To take them from all rows at once costs some systems a second.
+    for (const LPARAM state : {LVNI_SELECTED, LVNI_FOCUSED}) {
+        const LRESULT former = Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), state);
+        if (former < 0) continue;
+        Send(LVM_SETITEMSTATE, static_cast<WPARAM>(former), reinterpret_cast<LPARAM>(&item));
+    }
     const ListRow* selected = list_.SelectedRow();
     if (selected == nullptr) return;
     const std::size_t position = list_.PositionOf(*selected);

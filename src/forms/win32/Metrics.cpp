@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "forms/ComboBox.h"
-#include "forms/Controls.h"
 #include "forms/ListView.h"
 #include "forms/TabStrip.h"
 #include "forms/win32/Screen.h"
@@ -12,15 +11,20 @@ namespace velkarix {
 
 namespace {
 
-// The height, at 96 DPI, that a main window with large page icons wants.
-constexpr int HeightForLargeIcons = 560;
+// The height, at 96 DPI, that a main window with large pictures on its buttons wants.
+constexpr int HeightForLargePictures = 560;
 
 }  // namespace
 
 Metrics::Metrics(const Dpi& dpi, const Fonts& fonts)
     : dpi_(dpi),
       fonts_(fonts),
-      pageIconSize_(dpi.Pixels(Height(WorkArea()) < dpi.Pixels(HeightForLargeIcons) ? 32 : 48)) {}
+      smallScreen_(Height(WorkArea()) < dpi.Pixels(HeightForLargePictures)) {}
+
+int Metrics::PictureSize(Button::Look look) const {
+    const bool page = look == Button::Look::Picture;
+    return dpi_.Pixels(smallScreen_ ? (page ? 32 : 16) : (page ? 48 : 24));
+}
 
 Size Metrics::PreferredSize(Control& control) {
     size_ = {};
@@ -50,10 +54,11 @@ const NativeMeasures& Metrics::Natives() {
 
 void Metrics::Visit(Button& control) {
     const Size caption = CaptionExtent(fonts_.Dialog(), control.Text());
-    if (control.ButtonLook() == Button::Look::Picture) {
+    if (control.ButtonLook() != Button::Look::Command) {
+        const int picture = PictureSize(control.ButtonLook());
         const int padding = ButtonPadding();
-        size_ = {std::max(PageIconSize(), caption.width) + 8 * padding,
-                 PageIconSize() + caption.height + 3 * padding};
+        size_ = {std::max(picture, caption.width) + 8 * padding,
+                 picture + caption.height + 3 * padding};
         return;
     }
     size_ = {std::max(dpi_.Pixels(75), caption.width + dpi_.Pixels(20)),

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "forms/ControlVisitor.h"
+#include "forms/Controls.h"
 #include "forms/Form.h"
 #include "forms/Layout.h"
 #include "forms/win32/Dpi.h"
@@ -22,7 +23,7 @@ class Metrics : public LayoutMetrics, private ControlVisitor {
 
     // Between the edges of a form and its layout.
     Insets FormMargins(FormKind kind);
-    int PageIconSize() const { return pageIconSize_; }    // on a picture button
+    int PictureSize(Button::Look look) const;             // on a picture button
     int BannerLine() const { return dpi_.Pixels(3); }     // along the lower edge of the banner
     int ButtonPadding() const { return dpi_.Pixels(2); }  // around icon and text of such a button
 
@@ -46,7 +47,7 @@ class Metrics : public LayoutMetrics, private ControlVisitor {
 
     const Dpi& dpi_;
     const Fonts& fonts_;
-    int pageIconSize_;
+    bool smallScreen_;
     std::optional<NativeMeasures> natives_;  // once they were needed
     Size size_;                              // what the last visit found
     Insets insets_;                          // likewise, of a group

@@ -13,7 +13,7 @@ PictureButtonWindow::PictureButtonWindow(DesktopContext& context, Button& button
 }
 
 void PictureButtonWindow::LoadIcon() {
-    icon_ = StockIcon(Context().instance, button_.SkinElement(), Context().metrics.PageIconSize());
+    icon_ = StockIcon(Context().instance, button_.SkinElement(), PictureSize());
 }
 
 void PictureButtonWindow::Changed(Aspect aspect) {
@@ -55,7 +55,7 @@ void PictureButtonWindow::OnDrawItem(const DRAWITEMSTRUCT& item) {
     }
 
     const int padding = Context().metrics.ButtonPadding();
-    const int size = Context().metrics.PageIconSize();
+    const int size = PictureSize();
     const bool enabled = (item.itemState & ODS_DISABLED) == 0;
     const int left = (item.rcItem.left + item.rcItem.right - size) / 2;
     DrawSquareIcon(paint.Context(), icon_.get(), left, item.rcItem.top + padding, size, enabled);

@@ -22,6 +22,7 @@ class PictureButtonWindow : public DrawnButtonWindow {
     Shade ShadeFor(UINT state) const;
     void SetHot(bool hot);
     void LoadIcon();
+    int PictureSize() const { return Context().metrics.PictureSize(button_.ButtonLook()); }
 
     Button& button_;
     OwnedIcon icon_;

@@ -22,6 +22,7 @@ DWORD StyleOf(const TextBox::Shape& shape) {
 TextBoxWindow::TextBoxWindow(DesktopContext& context, TextBox& box, const ControlPlace& place)
     : ControlWindow(context, box, place, {"EDIT", StyleOf(box.BoxShape()), WS_EX_CLIENTEDGE}),
       box_(box) {
+    Send(EM_LIMITTEXT);  // as much as the system can
     ShowValue();
 }
 

@@ -120,6 +120,8 @@ std::uintptr_t Win32Desktop::HandleOf(const Form& form) {
 void Win32Desktop::Focus(Control& control) {
     const ControlWindow* window = windows_->forms.WindowOf(control);
     if (window == nullptr) return;
+    // It may be of a view that has just been switched to.
+    windows_->context.visibility.Refresh();
     if (FormWindow* around = windows_->FormAround(window->Handle())) {
         around->Focus().Give(around->Handle(), window->Handle());
     }

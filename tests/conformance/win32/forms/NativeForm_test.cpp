@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <functional>
 
 #include "NativeForms.h"
@@ -40,19 +39,6 @@ class NativeFormTest : public NativeFormsTest {
         closer.loopSleptOn = WaitForSingleObject(closer.loopEnded, 3000) == WAIT_TIMEOUT;
         if (closer.loopSleptOn) PostMessageA(closer.window, WM_NULL, 0, 0);
         return 0;
-    }
-
-    // The highest of some slots that the system gives to new GDI objects: it rises when others
-    // aren't freed.
-    static int HighestGdiSlot() {
-        int highest = 0;
-        std::vector<HBRUSH> brushes;
-        for (int i = 0; i < 8; ++i) {
-            brushes.push_back(CreateSolidBrush(RGB(i, 0, 0)));
-            highest = std::max<int>(highest, LOWORD(reinterpret_cast<UINT_PTR>(brushes.back())));
-        }
-        for (const HBRUSH brush : brushes) DeleteObject(brush);
-        return highest;
     }
 };
 

@@ -6,6 +6,7 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
@@ -109,6 +110,19 @@ class NativeFormsTest : public testing::Test {
     void ClickAt(HWND window, int x, int y) {
         PostMessageA(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
         Post(window, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+    }
+
+    // The highest of some slots that the system gives to new GDI objects: it rises when others
+    // aren't freed.
+    static int HighestGdiSlot() {
+        int highest = 0;
+        std::vector<HBRUSH> brushes;
+        for (int i = 0; i < 8; ++i) {
+            brushes.push_back(CreateSolidBrush(RGB(i, 0, 0)));
+            highest = std::max<int>(highest, LOWORD(reinterpret_cast<UINT_PTR>(brushes.back())));
+        }
+        for (const HBRUSH brush : brushes) DeleteObject(brush);
+        return highest;
     }
 
   private:

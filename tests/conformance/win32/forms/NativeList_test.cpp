@@ -1,3 +1,5 @@
+#include <map>
+
 #include "NativeForms.h"
 
 namespace velkarix {
@@ -149,6 +151,101 @@ TEST_F(NativeListTest, TypingLeadsToTheRow) {
     AddThreeRows();
     Post(List(), WM_CHAR, 'g', 1);
     EXPECT_EQ(calls, Calls{"item gamma"});
+}
+
+TEST_F(NativeListTest, ImagesFollowTheModelsWhenItBeginsAnew) {
+    const auto count = [this] {
+        desktop.YieldEvents();
+        return ImageList_GetImageCount(
+            reinterpret_cast<HIMAGELIST>(SendMessageA(List(), LVM_GETIMAGELIST, LVSIL_SMALL, 0)));
+    };
+    ImageList images;
+    images.Add(StockPicture{"Software"});
+    page->list.SetImages(&images);
+    EXPECT_EQ(count(), 1);
+    images.Add(Picture{1, 1, {0xFF00FF00}});
+    page->list.Add("K", "row", 2);
+    EXPECT_EQ(count(), 2);
+    images.Clear();
+    images.Add(StockPicture{"Unknown"});
+    page->list.Clear();
+    EXPECT_EQ(count(), 1);
+    page->list.SetImages(nullptr);
+    desktop.YieldEvents();
+}
+
+TEST_F(NativeListTest, ManyImagesMadeAnewLeaveNoObjectsBehind) {
+    ImageList images;
+    page->list.SetImages(&images);
+    const auto fill = [&] {
+        page->list.Clear();
+        images.Clear();
+        for (std::uint32_t i = 0; i < 60; ++i) {
+            const std::size_t image = images.Add(Picture{1, 1, {0xFF000000 | i}});
+            page->list.Add(std::to_string(i), "row", image);
+        }
+        desktop.YieldEvents();
+    };
+    for (int i = 0; i < 2; ++i) fill();
+    const int before = HighestGdiSlot();
+    for (int i = 0; i < 3; ++i) fill();
+    EXPECT_LT(HighestGdiSlot(), before + 25);
+    page->list.SetImages(nullptr);
+    desktop.YieldEvents();
+}
+
+// How often the native list hears of something while `act` runs and its consequences are served.
+class HeardByList {
+  public:
+    template <typename Act>
+    HeardByList(HWND list, Desktop& desktop, Act act) {
+        list_ = list;
+        counts_ = {};
+        const DWORD thread = GetCurrentThreadId();
+        const HHOOK sent = SetWindowsHookExA(WH_CALLWNDPROC, OnSent, nullptr, thread);
+        const HHOOK posted = SetWindowsHookExA(WH_GETMESSAGE, OnPosted, nullptr, thread);
+        act();
+        desktop.YieldEvents();
+        UnhookWindowsHookEx(posted);
+        UnhookWindowsHookEx(sent);
+    }
+    static int Times(UINT message) { return counts_[message]; }
+
+  private:
+    static void Count(HWND window, UINT message) {
+        if (window == list_) ++counts_[message];
+    }
+    static LRESULT CALLBACK OnSent(int code, WPARAM wParam, LPARAM lParam) {
+        const auto& message = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+        Count(message.hwnd, message.message);
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+    static LRESULT CALLBACK OnPosted(int code, WPARAM wParam, LPARAM lParam) {
+        const auto& message = *reinterpret_cast<const MSG*>(lParam);
+        if (wParam == PM_REMOVE) Count(message.hwnd, message.message);
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+    static inline HWND list_ = nullptr;
+    static inline std::map<UINT, int> counts_;
+};
+
+TEST_F(NativeListTest, ThousandsOfChangesAreOneRepaint) {
+    constexpr int count = 30000;
+    const HeardByList filling(List(), desktop, [this] {
+        for (int i = 0; i < count; ++i) page->list.Add(std::to_string(i), std::to_string(i), 1);
+    });
+    EXPECT_EQ(filling.Times(LVM_SETITEMCOUNT), 1);
+    EXPECT_LE(filling.Times(WM_PAINT), 2);
+    const HeardByList changing(List(), desktop, [this] {
+        for (std::size_t i = 0; i < count; ++i) page->list.Row(i).SetChecked(true);
+        page->list.Sort(0, SortOrder::Descending);
+    });
+    EXPECT_EQ(changing.Times(LVM_SETITEMCOUNT), 1);
+    EXPECT_LE(changing.Times(WM_PAINT), 2);
+    EXPECT_EQ(BoxState(count - 1), UINT{INDEXTOSTATEIMAGEMASK(2)});
+    const HeardByList clearing(List(), desktop, [this] { page->list.Clear(); });
+    EXPECT_EQ(clearing.Times(LVM_SETITEMCOUNT), 1);
+    EXPECT_LE(clearing.Times(WM_PAINT), 2);
 }
 
 TEST_F(NativeListTest, ColumnsFitTheWidestRowAlsoOutOfSight) {
