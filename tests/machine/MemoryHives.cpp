@@ -46,6 +46,12 @@ void MemoryHives::RemoveKey(Hive hive, const std::string& key) {
     }
 }
 
+void MemoryHives::RemoveValue(Hive hive, const std::string& key, const std::string& name) {
+    if (const auto found = KeyAt(hive, key)) {
+        found->values.Remove(name);
+    }
+}
+
 void MemoryHives::Restrict(Hive hive, const std::string& key, std::optional<KeyAccess> allowed) {
     MakeKey(hive, key)->Allow(allowed ? static_cast<std::uint32_t>(*allowed) : 0);
 }

@@ -28,6 +28,7 @@ class MemoryHives {
                 Bytes data);
     // Removes a key with all that is below it, without a word.
     void RemoveKey(Hive hive, const std::string& key);
+    void RemoveValue(Hive hive, const std::string& key, const std::string& name);
     // What a caller may do with the key from now on, and nothing more: opening it otherwise, or
     // deleting it when it isn't open to all, gives AccessDenied. Nothing at all for nullopt.
     void Restrict(Hive hive, const std::string& key, std::optional<KeyAccess> allowed);
