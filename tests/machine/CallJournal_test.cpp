@@ -77,4 +77,15 @@ TEST(CallJournal, OthersActOnceBeforeACallOfItsNumber) {
     EXPECT_EQ(callsBefore, (std::vector<std::size_t>{2}));
 }
 
+TEST(CallJournal, TheProcessEndsAtACallOfItsNumberButNotAtClosing) {
+    CallJournal journal;
+    journal.EndAtCall(1);
+    EXPECT_EQ(journal.Enter("A"), error::Success);
+    EXPECT_EQ(journal.Enter("RegCloseKey"), error::Success);
+    EXPECT_THROW(journal.Enter("B"), ProcessEnded);
+    EXPECT_EQ(journal.Enter("CloseFile"), error::Success);
+    EXPECT_THROW(journal.Enter("C"), ProcessEnded);
+    EXPECT_EQ(journal.Names(), (std::vector<std::string>{"A", "RegCloseKey", "CloseFile"}));
+}
+
 }  // namespace velkarix

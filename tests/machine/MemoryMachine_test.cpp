@@ -155,6 +155,21 @@ TEST(MemoryMachine, CopyingKeysCanBeMissing) {
     EXPECT_EQ(machine.Parts().registry.SHCopyKeyA(hive, "A", hive), error::ProcNotFound);
 }
 
+TEST(MemoryMachine, ACopyOfAKeyCanBeShortAndReportSuccess) {
+    MemoryMachine machine;
+    machine.SetValue(Hive::CurrentUser, "A", "Name", "text");
+    machine.AddKey(Hive::CurrentUser, "B");
+    machine.registry.afterCopy = [&] {
+        machine.registry.RemoveValue(Hive::CurrentUser, "B", "Name");
+    };
+    KeyHandle copy = 0;
+    Registry& registry = machine.Parts().registry;
+    const KeyHandle hive = Registry::HandleOf(Hive::CurrentUser);
+    registry.RegOpenKeyExA(hive, "B", KeyAccess::All, copy);
+    EXPECT_EQ(registry.SHCopyKeyA(hive, "A", copy), error::Success);
+    EXPECT_FALSE(machine.registry.ValueAt(Hive::CurrentUser, "B", "Name").has_value());
+}
+
 TEST(MemoryMachine, AProcessCanEndBetweenListingAndOpening) {
     MemoryMachine machine;
     machine.AddProcess(4, "C:\\a.exe").EndsBeforeOpening();

@@ -225,6 +225,9 @@ ErrorCode MemoryRegistry::SHCopyKeyA(KeyHandle source, const std::string& subKey
         return failure;
     }
     to->CopyFrom(*from);
+    if (afterCopy) {
+        afterCopy();
+    }
     return error::Success;
 }
 

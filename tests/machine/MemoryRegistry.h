@@ -1,6 +1,7 @@
 // The registry's calls over the hives in memory.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -21,6 +22,8 @@ class MemoryRegistry : public Registry, public MemoryHives {
     void SetFamily(Family family) { family_ = family; }
     // Whether the system has SHCopyKeyA; it does at first.
     void SetHasCopyKey(bool there) { hasCopyKey_ = there; }
+    // What becomes of a copy that SHCopyKeyA has just made and is about to call whole.
+    std::function<void()> afterCopy;
 
     // How many handles are open; the hives don't count.
     std::size_t OpenKeyCount() const { return handles_.size(); }
