@@ -42,6 +42,41 @@ TEST_F(RawValueTest, TellsThatANameIsTooLongAfterOneMoreCall) {
     EXPECT_EQ(Read(0, 5), error::Success);
 }
 
+TEST_F(RawValueTest, QueriesAValueByItsNameInOneCallOrTwo) {
+    machine.registry.SetRaw(Hive::CurrentUser, "Key", "Small", 77, {1, 2, 3});
+    machine.registry.SetRaw(Hive::CurrentUser, "Key", "Large", 78, Bytes(5000, 7));
+    KeyHandle key = 0;
+    ASSERT_EQ(machine.registry.RegOpenKeyA(Registry::HandleOf(Hive::CurrentUser), "Key", key),
+              error::Success);
+    EXPECT_EQ(QueryRawValue(machine.registry, key, "Small", value), error::Success);
+    EXPECT_EQ(value.name, "Small");
+    EXPECT_EQ(value.type, 77u);
+    EXPECT_EQ(value.data, (Bytes{1, 2, 3}));
+    EXPECT_EQ(machine.Journal().CountOf("RegQueryValueExA"), 1u);
+    EXPECT_EQ(QueryRawValue(machine.registry, key, "Large", value), error::Success);
+    EXPECT_EQ(value.data, Bytes(5000, 7));
+    EXPECT_EQ(machine.Journal().CountOf("RegQueryValueExA"), 3u);
+    EXPECT_EQ(QueryRawValue(machine.registry, key, "Missing", value), error::FileNotFound);
+}
+
+TEST(StandsAs, ComparesTypeAndBytesWithoutTheName) {
+    EXPECT_TRUE(StandsAs({"a", 3, {1, 2}}, {"A", 3, {1, 2}}));
+    EXPECT_FALSE(StandsAs({"a", 3, {1, 2}}, {"a", 4, {1, 2}}));
+    EXPECT_FALSE(StandsAs({"a", 3, {1, 2}}, {"a", 3, {1, 3}}));
+    EXPECT_FALSE(StandsAs({"a", 3, {1}}, {"a", 3, {1, 0}}));
+    EXPECT_FALSE(StandsAs({"a", 3, {1, 0}}, {"a", 3, {1}}));
+}
+
+TEST(StandsAs, OverlooksTheNulThatTheSystemPutsBehindAText) {
+    for (const std::uint32_t type : {1u, 2u, 7u}) {
+        EXPECT_TRUE(StandsAs({"", type, {'a', 0}}, {"", type, {'a'}})) << type;
+        EXPECT_FALSE(StandsAs({"", type, {'a'}}, {"", type, {'a', 0}})) << type;
+        EXPECT_FALSE(StandsAs({"", type, {'a', 0, 0}}, {"", type, {'a', 0}})) << type;
+        EXPECT_FALSE(StandsAs({"", type, {0}}, {"", type, {}})) << type;
+        EXPECT_FALSE(StandsAs({"", type, {'b', 0}}, {"", type, {'a'}})) << type;
+    }
+}
+
 TEST_F(RawValueTest, TakesMemoryForSizesThatValuesCanHaveAlone) {
     Bytes buffer;
     EXPECT_TRUE(MakeRoom(buffer, 1'000'000));

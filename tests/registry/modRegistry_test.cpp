@@ -349,5 +349,27 @@ TEST_F(modRegistryTest, CopyKeyCopiesByItselfWhereTheShellLibraryHasNoCallForIt)
     EXPECT_EQ(machine.registry.ValueAt(User, "Target\\Sub", "Number")->data, (Bytes{7, 0, 0, 0}));
 }
 
+// ---- Deletions that mustn't be
+
+TEST_F(modRegistryTest, ToldFailuresOfDeletionsReadLikeRealOnes) {
+    machine.AddKey(User, key);
+    machine.FailNext("RegDeleteKeyA", error::CantWrite);
+    registry.DeleteKey(User, key, false);
+    registry.ShowKeyNotDeleted(key, error::CantWrite);
+    machine.SetValue(User, key, "Name", "text");
+    machine.FailNext("RegDeleteValueA", error::CantWrite);
+    registry.DeleteValue(User, key, "Name", false);
+    registry.ShowValueNotDeleted(key, "Name", error::CantWrite);
+    ASSERT_EQ(desktop.messages.size(), 4u);
+    EXPECT_EQ(desktop.messages[0].text,
+              "Following Key Could not be deleted: \r\nSoftware\\Example\r\n\r\n"
+              "The configuration registry key could not be written.\r\n");
+    EXPECT_EQ(desktop.messages[1].text, desktop.messages[0].text);
+    EXPECT_EQ(desktop.messages[2].text,
+              "Following Key Value Could not be deleted: \r\nSoftware\\Example\r\n\r\nName\r\n"
+              "The configuration registry key could not be written.\r\n");
+    EXPECT_EQ(desktop.messages[3].text, desktop.messages[2].text);
+}
+
 }  // namespace
 }  // namespace velkarix

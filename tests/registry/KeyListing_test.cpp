@@ -1,0 +1,62 @@
+#include "registry/KeyListing.h"
+
+#include <gtest/gtest.h>
+
+#include "registry/OpenKey.h"
+#include "tests/registry/RegistryFixture.h"
+
+namespace velkarix {
+namespace {
+
+class KeyListingTest : public RegistryFixture {
+  protected:
+    // Opens the example key and lists it with one of the functions.
+    template <typename List>
+    ErrorCode In(List list) {
+        OpenKey open(machine.registry);
+        EXPECT_EQ(open.Open(Registry::HandleOf(User), key, KeyAccess::Read), error::Success);
+        return list(open.Handle());
+    }
+    ErrorCode Values() {
+        return In([&](KeyHandle open) { return ListValues(machine.registry, open, values); });
+    }
+    ErrorCode SubKeys() {
+        return In([&](KeyHandle open) { return ListSubKeys(machine.registry, open, names); });
+    }
+
+    std::vector<RawValue> values;
+    std::vector<std::string> names;
+};
+
+TEST_F(KeyListingTest, GivesAllValuesAsTheyLieThere) {
+    machine.registry.SetRaw(User, key, "", registryType::Sz, {'a', 0});
+    machine.registry.SetRaw(User, key, std::string(16383, 'n'), 77, Bytes(10'000, 7));
+    values.push_back({"from before", 0, {}});
+    EXPECT_EQ(Values(), error::Success);
+    ASSERT_EQ(values.size(), 2u);
+    EXPECT_EQ(values[0].name, "");
+    EXPECT_EQ(values[0].data, (Bytes{'a', 0}));
+    EXPECT_EQ(values[1].name, std::string(16383, 'n'));
+    EXPECT_EQ(values[1].type, 77u);
+    EXPECT_EQ(values[1].data, Bytes(10'000, 7));
+}
+
+TEST_F(KeyListingTest, GivesAllNamesOfSubkeys) {
+    machine.AddKey(User, key + "\\B\\Below");
+    machine.AddKey(User, key + "\\" + std::string(255, 'a'));
+    names = {"from before"};
+    EXPECT_EQ(SubKeys(), error::Success);
+    EXPECT_EQ(names, (Strings{std::string(255, 'a'), "B"}));
+}
+
+TEST_F(KeyListingTest, IsNoSuccessWhenAListingBreaksOff) {
+    machine.SetValue(User, key, "Name", "text");
+    machine.AddKey(User, key + "\\Below");
+    machine.FailNext("RegEnumValueA", error::BadKey);
+    EXPECT_EQ(Values(), error::BadKey);
+    machine.FailNext("RegEnumKeyExA", error::MoreData);
+    EXPECT_EQ(SubKeys(), error::MoreData);
+}
+
+}  // namespace
+}  // namespace velkarix
