@@ -29,6 +29,9 @@ class Home {
     // registry can.
     virtual void MakeUnendedText(const std::string& name, const std::string& text) = 0;
 
+    // Merges a registry file as a double click on it does; false when that can't be started.
+    virtual bool MergeRegistryFile(const std::string& path) = 0;
+
     // Makes a file with these bytes and the attributes of fileAttribute besides its own.
     virtual void MakeFile(const std::string& path, const std::string& content,
                           std::uint32_t attributes = 0) = 0;

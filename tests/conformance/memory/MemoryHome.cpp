@@ -1,6 +1,7 @@
 // The suite's home on the machine in memory.
 #include "tests/conformance/Home.h"
 #include "tests/machine/MemoryMachine.h"
+#include "tests/machine/RegistryFileMerge.h"
 
 namespace velkarix {
 namespace {
@@ -27,6 +28,10 @@ class MemoryHome : public Home {
     void MakeUnendedText(const std::string& name, const std::string& text) override {
         memory_.registry.SetRaw(scratchHive, ScratchKey(), name, registryType::Sz,
                                 Bytes(text.begin(), text.end()));
+    }
+
+    bool MergeRegistryFile(const std::string& path) override {
+        return velkarix::MergeRegistryFile(memory_.registry, ContentOf(path));
     }
 
     void MakeFile(const std::string& path, const std::string& content,

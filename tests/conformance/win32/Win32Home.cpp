@@ -15,7 +15,8 @@ namespace velkarix {
 namespace {
 
 constexpr const char* scratchKey = "Software\\VelkarixConformance";
-constexpr int iconSize = 32;  // pixels
+constexpr int iconSize = 32;           // pixels
+constexpr DWORD longestMerge = 60000;  // milliseconds
 
 void DeleteKeyTree(HKEY parent, const std::string& path) {
     HKEY key = nullptr;
@@ -131,6 +132,21 @@ class Win32Home : public Home {
         ::RegSetValueExA(key, name.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(padded.data()),
                          static_cast<DWORD>(text.size()));
         ::RegCloseKey(key);
+    }
+
+    bool MergeRegistryFile(const std::string& path) override {
+        std::string command = "regedit /s \"" + path + "\"";
+        STARTUPINFOA startup = {};
+        startup.cb = sizeof(startup);
+        PROCESS_INFORMATION process = {};
+        if (CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                           &startup, &process) == 0) {
+            return false;
+        }
+        const DWORD ended = ::WaitForSingleObject(process.hProcess, longestMerge);
+        ::CloseHandle(process.hThread);
+        ::CloseHandle(process.hProcess);
+        return ended == WAIT_OBJECT_0;
     }
 
     void MakeFile(const std::string& path, const std::string& content,
