@@ -7,41 +7,11 @@
 #include <set>
 #include <string>
 
-#include "forms/ControlVisitor.h"
+#include "tests/forms/LayoutLint.h"
 #include "tests/machine/TestProgram.h"
 
 namespace velkarix {
 namespace {
-
-// Sizes near those of a real font: eight pixels a character.
-class PlainMetrics : public LayoutMetrics {
-  public:
-    Size PreferredSize(Control& control) override {
-        if (auto* box = dynamic_cast<TextBox*>(&control)) {
-            return {box->BoxShape().widthInCharacters * 8, box->BoxShape().lines * 20};
-        }
-        if (dynamic_cast<ListView*>(&control) != nullptr) return {300, 100};
-        return {static_cast<int>(control.Text().size()) * 8, 20};
-    }
-    Insets GroupInsets(Control&) override { return {8, 20, 8, 8}; }
-    int Gap() override { return 6; }
-};
-
-bool IsInside(const Rect& inner, const Rect& outer) {
-    return inner.x >= outer.x && inner.y >= outer.y &&
-           inner.x + inner.width <= outer.x + outer.width &&
-           inner.y + inner.height <= outer.y + outer.height;
-}
-
-bool Overlap(const Rect& a, const Rect& b) {
-    return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height &&
-           b.y < a.y + a.height;
-}
-
-bool IsGroup(const Control* control) {
-    return dynamic_cast<const Frame*>(control) != nullptr ||
-           dynamic_cast<const Panel*>(control) != nullptr;
-}
 
 class EveryForm : public testing::TestWithParam<const char*> {
   protected:
@@ -94,33 +64,20 @@ TEST_P(EveryForm, GivesItsControlsWordsForAScreenReader) {
 TEST_P(EveryForm, PlacesEveryControlOnceInsideTheForm) {
     Look([](Form& form) {
         PlainMetrics metrics;
-        const Size least = MinimumSize(form.FormLayout(), metrics);
-        const Rect all{0, 0, least.width, least.height};
         std::multiset<const Control*> placed;
-        for (const Placement& each : Arrange(form.FormLayout(), all, metrics)) {
+        for (const Placement& each : Arrange(form.FormLayout(), {0, 0, 800, 600}, metrics)) {
             placed.insert(each.control);
-            EXPECT_TRUE(IsInside(each.area, all)) << each.control->Name();
         }
         for (const Control* control : form.Controls()) {
             EXPECT_EQ(placed.count(control), 1u) << control->Name();
         }
         EXPECT_EQ(placed.size(), form.Controls().size());
+        ExpectInside(form);
     });
 }
 
 TEST_P(EveryForm, LetsNoTwoControlsOverlap) {
-    Look([](Form& form) {
-        PlainMetrics metrics;
-        const auto placements = Arrange(form.FormLayout(), {0, 0, 800, 600}, metrics);
-        for (std::size_t i = 0; i < placements.size(); ++i) {
-            for (std::size_t j = i + 1; j < placements.size(); ++j) {
-                if (IsGroup(placements[i].control)) continue;
-                if (!placements[i].control->Shown() || !placements[j].control->Shown()) continue;
-                EXPECT_FALSE(Overlap(placements[i].area, placements[j].area))
-                    << placements[i].control->Name() << placements[j].control->Name();
-            }
-        }
-    });
+    Look(ExpectNoOverlap);
 }
 
 TEST_P(EveryForm, HasAHandlerForEachOfItsKeys) {
