@@ -84,7 +84,7 @@ TEST_F(DeleteItemTest, DeletesNothingThatCantBeKept) {
 // The item isn't gone here: something else is missing.
 TEST_F(DeleteItemTest, TellsThatTheFileHasNoPlace) {
     machine.SetValue(User, Live, "Name", "text");
-    machine.FailNext("CreateFileA", error::FileNotFound);
+    machine.FailNext("CreateDirectoryA", error::FileNotFound);
     DeleteValue();
     EXPECT_EQ(OnlyMessage(MessageIcon::Information),
               "Error Occurred backupItem: \r\nThe system cannot find the file specified.\r\n");

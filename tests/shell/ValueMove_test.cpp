@@ -140,7 +140,7 @@ TEST_F(ValueMoveTest, NothingHappensWhenTheItemIsGone) {
 
 TEST_F(ValueMoveTest, WhatCantBeKeptStaysAndTheUserReadsWhy) {
     Put(registryType::Binary, {1});
-    machine.FailAlways("CreateFileA", error::SharingViolation);
+    machine.FailAlways("CreateDirectoryA", error::SharingViolation);
     const std::string why =
         "The process cannot access the file because it is being used by another process.\r\n";
     MoveHook();
