@@ -51,10 +51,40 @@ std::vector<int> LengthsAlong(const Layout& layout, const std::vector<Size>& siz
     return lengths;
 }
 
+int SumOf(const std::vector<int>& numbers) {
+    return std::accumulate(numbers.begin(), numbers.end(), 0);
+}
+
+// Takes room from each length in proportion to its weight, which isn't more than the length. Gives
+// what couldn't be taken.
+int TakeFrom(std::vector<int>& lengths, const std::vector<int>& weights, int missing) {
+    int total = SumOf(weights);
+    int left = std::min(missing, total);
+    missing -= left;
+    for (std::size_t i = 0; i < lengths.size() && total > 0; ++i) {
+        const int part = weights[i] * left / total;
+        lengths[i] -= part;
+        left -= part;
+        total -= weights[i];
+    }
+    return missing;
+}
+
+// Takes missing room from those that stretch, as a list or a text box is of use in any size; and
+// from all where that isn't enough, so that nothing is out of reach.
+void Shrink(std::vector<int>& lengths, const std::vector<int>& shares, int missing) {
+    std::vector<int> stretching = lengths;
+    for (std::size_t i = 0; i < lengths.size(); ++i) {
+        if (shares[i] == 0) stretching[i] = 0;
+    }
+    missing = TakeFrom(lengths, stretching, missing);
+    TakeFrom(lengths, std::vector<int>(lengths), missing);
+}
+
 // Gives spare room to those that stretch, by their shares; the last of them takes the rest.
 void Spread(std::vector<int>& lengths, const std::vector<int>& shares, int spare) {
-    const int total = std::accumulate(shares.begin(), shares.end(), 0);
-    if (total == 0 || spare <= 0) return;
+    const int total = SumOf(shares);
+    if (total == 0) return;
     int left = spare;
     std::size_t last = 0;
     for (std::size_t i = 0; i < lengths.size(); ++i) {
@@ -68,6 +98,7 @@ void Spread(std::vector<int>& lengths, const std::vector<int>& shares, int spare
 
 struct GridLines {
     std::vector<int> columnWidths;
+    std::vector<int> columnShares;  // the largest of the column's children
     std::vector<int> rowHeights;
 };
 
@@ -75,20 +106,22 @@ GridLines MeasureGrid(const Layout& layout, LayoutMetrics& metrics) {
     const auto columns = static_cast<std::size_t>(layout.gridColumns);
     GridLines lines;
     lines.columnWidths.assign(columns, 0);
+    lines.columnShares.assign(columns, 0);
     lines.rowHeights.assign((layout.children.size() + columns - 1) / columns, 0);
     for (std::size_t i = 0; i < layout.children.size(); ++i) {
         const Size size = MinimumSize(layout.children[i], metrics);
         int& width = lines.columnWidths[i % columns];
+        int& share = lines.columnShares[i % columns];
         int& height = lines.rowHeights[i / columns];
         width = std::max(width, size.width);
+        share = std::max(share, layout.children[i].stretch);
         height = std::max(height, size.height);
     }
     return lines;
 }
 
 int Total(const std::vector<int>& lengths, LayoutMetrics& metrics) {
-    return std::accumulate(lengths.begin(), lengths.end(), 0) +
-           GapsBetween(lengths.size(), metrics);
+    return SumOf(lengths) + GapsBetween(lengths.size(), metrics);
 }
 
 // An item that doesn't stretch stands in the middle of a place that is too high for it.
@@ -107,7 +140,12 @@ void PlaceBox(const Layout& layout, const Rect& area, LayoutMetrics& metrics,
     std::vector<int> lengths = LengthsAlong(layout, SizesOf(layout.children, metrics), row);
     std::vector<int> shares;
     for (const Layout& child : layout.children) shares.push_back(child.stretch);
-    Spread(lengths, shares, (row ? area.width : area.height) - Total(lengths, metrics));
+    const int spare = (row ? area.width : area.height) - Total(lengths, metrics);
+    if (spare < 0) {
+        Shrink(lengths, shares, -spare);
+    } else {
+        Spread(lengths, shares, spare);
+    }
     int position = row ? area.x : area.y;
     for (std::size_t i = 0; i < layout.children.size(); ++i) {
         const Rect place = row ? Rect{position, area.y, lengths[i], area.height}
@@ -120,9 +158,12 @@ void PlaceBox(const Layout& layout, const Rect& area, LayoutMetrics& metrics,
 void PlaceGrid(const Layout& layout, const Rect& area, LayoutMetrics& metrics,
                std::vector<Placement>& placements) {
     GridLines lines = MeasureGrid(layout, metrics);
-    std::vector<int> lastColumnOnly(lines.columnWidths.size(), 0);
-    lastColumnOnly.back() = 1;
-    Spread(lines.columnWidths, lastColumnOnly, area.width - Total(lines.columnWidths, metrics));
+    const int spare = area.width - Total(lines.columnWidths, metrics);
+    if (spare < 0) {
+        Shrink(lines.columnWidths, lines.columnShares, -spare);
+    } else {
+        lines.columnWidths.back() += spare;
+    }
     const auto columns = lines.columnWidths.size();
     int x = area.x;
     int y = area.y;

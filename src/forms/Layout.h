@@ -73,8 +73,8 @@ struct Placement {
 
 // The least size that holds everything.
 Size MinimumSize(const Layout& layout, LayoutMetrics& metrics);
-// Places all controls inside `area`, groups before what stands in them. Less room than the
-// minimum cuts at the right and the bottom. Invisible controls keep their place.
+// Places all controls inside `area`, groups before what stands in them. Room that is missing to the
+// minimum is taken from what stretches, then from all. Invisible controls keep their place.
 std::vector<Placement> Arrange(const Layout& layout, const Rect& area, LayoutMetrics& metrics);
 
 }  // namespace velkarix

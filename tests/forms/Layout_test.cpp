@@ -115,6 +115,35 @@ TEST_F(LayoutTest, AStackTakesItsShareOfSpareRoom) {
     EXPECT_EQ(places[&b], (Rect{0, 25, 50, 75}));
 }
 
+TEST_F(LayoutTest, MissingRoomIsTakenFromThoseThatStretch) {
+    auto places = Places(Row({Item(a), Item(b, 1), Item(c)}), {0, 0, 60, 20});
+    EXPECT_EQ(places[&a].width, 30);
+    EXPECT_EQ(places[&b], (Rect{35, 0, 10, 20}));
+    EXPECT_EQ(places[&c], (Rect{50, 5, 10, 10}));
+}
+
+TEST_F(LayoutTest, MissingRoomIsTakenFromAllInProportionWhereNoneStretches) {
+    auto places = Places(Row({Item(a), Item(b), Item(c)}), {0, 0, 70, 20});
+    EXPECT_EQ(places[&a].width, 20);
+    EXPECT_EQ(places[&b], (Rect{25, 5, 34, 10}));
+    EXPECT_EQ(places[&c], (Rect{64, 5, 6, 10}));
+}
+
+TEST_F(LayoutTest, WhatStretchesGivesAllItHasBeforeTheOthersGive) {
+    auto places = Places(Column({Item(a), Item(b, 1)}), {0, 0, 50, 20});
+    EXPECT_EQ(places[&a], (Rect{0, 0, 50, 15}));
+    EXPECT_EQ(places[&b], (Rect{0, 20, 50, 0}));
+}
+
+TEST_F(LayoutTest, AGridTakesMissingRoomFromTheColumnsThatStretch) {
+    auto places = Places(Grid(2, {Item(a), Item(b, 1)}), {0, 0, 60, 20});
+    EXPECT_EQ(places[&a].width, 30);
+    EXPECT_EQ(places[&b], (Rect{35, 0, 25, 20}));
+    places = Places(Grid(2, {Item(a), Item(b)}), {0, 0, 45, 20});
+    EXPECT_EQ(places[&a].width, 15);
+    EXPECT_EQ(places[&b], (Rect{20, 5, 25, 10}));
+}
+
 TEST_F(LayoutTest, TooLittleRoomNeverMakesANegativeSize) {
     for (const Placement& each :
          Arrange(Group(frame, Row({Item(a, 1), Item(b)})), {0, 0, 10, 10}, metrics)) {

@@ -11,19 +11,20 @@ namespace velkarix {
 
 namespace {
 
-// The height, at 96 DPI, that a main window with large pictures on its buttons wants.
-constexpr int HeightForLargePictures = 560;
+const Spacing& SpacingFor(const RECT& workArea, const Dpi& dpi) {
+    const bool roomy =
+        Width(workArea) >= dpi.Pixels(RoomyWidth) && Height(workArea) >= dpi.Pixels(RoomyHeight);
+    return roomy ? Roomy : Tight;
+}
 
 }  // namespace
 
 Metrics::Metrics(const Dpi& dpi, const Fonts& fonts)
-    : dpi_(dpi),
-      fonts_(fonts),
-      smallScreen_(Height(WorkArea()) < dpi.Pixels(HeightForLargePictures)) {}
+    : dpi_(dpi), fonts_(fonts), spacing_(SpacingFor(WorkArea(), dpi)) {}
 
 int Metrics::PictureSize(Button::Look look) const {
-    const bool page = look == Button::Look::Picture;
-    return dpi_.Pixels(smallScreen_ ? (page ? 32 : 16) : (page ? 48 : 24));
+    const bool small = look == Button::Look::SmallPicture;
+    return dpi_.Pixels(small ? spacing_.viewPicture : spacing_.pagePicture);
 }
 
 Size Metrics::PreferredSize(Control& control) {
@@ -39,7 +40,7 @@ Insets Metrics::GroupInsets(Control& group) {
 }
 
 Insets Metrics::FormMargins(FormKind kind) {
-    const int margin = dpi_.Pixels(11);
+    const int margin = dpi_.Pixels(spacing_.margin);
     // The layout of the main form keeps a gap at the left of and above its page already.
     const int besideGap = margin - Gap();
     if (kind == FormKind::Page) return {besideGap, besideGap, margin, margin};
@@ -52,16 +53,21 @@ const NativeMeasures& Metrics::Natives() {
     return *natives_;
 }
 
-void Metrics::Visit(Button& control) {
+Size Metrics::PictureButton(const Button& control) const {
     const Size caption = CaptionExtent(fonts_.Dialog(), control.Text());
+    const int picture = PictureSize(control.ButtonLook());
+    return {std::max(picture, caption.width) + dpi_.Pixels(spacing_.pictureSides),
+            picture + caption.height + 3 * ButtonPadding()};
+}
+
+void Metrics::Visit(Button& control) {
     if (control.ButtonLook() != Button::Look::Command) {
-        const int picture = PictureSize(control.ButtonLook());
-        const int padding = ButtonPadding();
-        size_ = {std::max(picture, caption.width) + 8 * padding,
-                 picture + caption.height + 3 * padding};
+        size_ = PictureButton(control);
         return;
     }
-    size_ = {std::max(dpi_.Pixels(75), caption.width + dpi_.Pixels(20)),
+    const Size caption = CaptionExtent(fonts_.Dialog(), control.Text());
+    size_ = {std::max(dpi_.Pixels(spacing_.buttonWidth),
+                      caption.width + dpi_.Pixels(spacing_.buttonSides)),
              std::max(dpi_.Pixels(23), caption.height + dpi_.Pixels(8))};
 }
 
@@ -89,7 +95,7 @@ void Metrics::Visit(ComboBox& control) {
 }
 
 void Metrics::Visit(Frame&) {
-    const int edge = dpi_.Pixels(9);
+    const int edge = dpi_.Pixels(spacing_.frameEdge);
     insets_ = {edge, CaptionExtent(fonts_.Dialog(), {}).height + dpi_.Pixels(6), edge, edge};
 }
 
@@ -131,7 +137,7 @@ void Metrics::Visit(PictureBox& control) {
 
 void Metrics::Visit(TabStrip&) {
     const Insets& around = Natives().aroundTabPage;
-    const int edge = dpi_.Pixels(5);
+    const int edge = dpi_.Pixels(spacing_.tabEdge);
     insets_ = {around.left + edge, around.top + edge, around.right + edge, around.bottom + edge};
 }
 

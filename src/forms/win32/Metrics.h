@@ -10,6 +10,7 @@
 #include "forms/win32/Dpi.h"
 #include "forms/win32/Fonts.h"
 #include "forms/win32/NativeMeasures.h"
+#include "forms/win32/Spacing.h"
 
 namespace velkarix {
 
@@ -19,15 +20,17 @@ class Metrics : public LayoutMetrics, private ControlVisitor {
 
     Size PreferredSize(Control& control) override;
     Insets GroupInsets(Control& group) override;
-    int Gap() override { return dpi_.Pixels(7); }
+    int Gap() override { return dpi_.Pixels(spacing_.gap); }
 
     // Between the edges of a form and its layout.
     Insets FormMargins(FormKind kind);
-    int PictureSize(Button::Look look) const;             // on a picture button
+    int PictureSize(Button::Look look) const;                          // on a picture button
+    int MarkWidth() const { return dpi_.Pixels(spacing_.markWidth); }  // of the current button
     int BannerLine() const { return dpi_.Pixels(3); }     // along the lower edge of the banner
     int ButtonPadding() const { return dpi_.Pixels(2); }  // around icon and text of such a button
 
   private:
+    Size PictureButton(const Button& control) const;
     Size MarkedCaption(const Control& control) const;
     const NativeMeasures& Natives();
     void Visit(Button& control) override;
@@ -47,7 +50,7 @@ class Metrics : public LayoutMetrics, private ControlVisitor {
 
     const Dpi& dpi_;
     const Fonts& fonts_;
-    bool smallScreen_;
+    const Spacing& spacing_;
     std::optional<NativeMeasures> natives_;  // once they were needed
     Size size_;                              // what the last visit found
     Insets insets_;                          // likewise, of a group

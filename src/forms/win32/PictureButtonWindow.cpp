@@ -50,7 +50,7 @@ void PictureButtonWindow::OnDrawItem(const DRAWITEMSTRUCT& item) {
     FillArea(paint.Context(), item.rcItem, ink.ground);
     if (button_.Pressed()) {
         RECT mark = item.rcItem;
-        mark.right = mark.left + Context().dpi.Pixels(4);
+        mark.right = mark.left + Context().metrics.MarkWidth();
         FillArea(paint.Context(), mark, palette.Of(Shade::Accent).ground);
     }
 

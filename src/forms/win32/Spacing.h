@@ -1,0 +1,26 @@
+// The lengths that are a matter of taste, at 96 DPI: a small screen has less to give to them.
+#pragma once
+
+namespace velkarix {
+
+struct Spacing {
+    int gap;           // between two neighbours
+    int margin;        // inside the edges of a form
+    int frameEdge;     // inside a frame
+    int tabEdge;       // inside what the native control keeps of a tab's area
+    int buttonSides;   // beside the caption of a command button, both sides together
+    int buttonWidth;   // of a command button, at least
+    int pictureSides;  // beside the caption of a picture button, both sides together
+    int markWidth;     // of the mark at the edge of the current picture button
+    int pagePicture;   // edge of the picture on a page's button
+    int viewPicture;   // likewise on a button of a longer strip
+};
+
+inline constexpr Spacing Roomy{7, 11, 9, 5, 20, 75, 16, 4, 48, 24};
+inline constexpr Spacing Tight{4, 6, 5, 2, 8, 60, 10, 3, 32, 16};
+
+// The least work area that has room for the roomy one.
+inline constexpr int RoomyWidth = 760;
+inline constexpr int RoomyHeight = 560;
+
+}  // namespace velkarix

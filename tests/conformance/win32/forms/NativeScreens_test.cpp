@@ -1,0 +1,55 @@
+#include "NativeViews.h"
+
+namespace velkarix {
+namespace {
+
+// The part of the screen that windows may cover, for the length of a scope.
+class WorkAreaOf {
+  public:
+    WorkAreaOf(LONG width, LONG height) {
+        SystemParametersInfoA(SPI_GETWORKAREA, 0, &former_, 0);
+        RECT wanted{0, 0, width, height};
+        SystemParametersInfoA(SPI_SETWORKAREA, 0, &wanted, 0);
+    }
+    ~WorkAreaOf() { SystemParametersInfoA(SPI_SETWORKAREA, 0, &former_, 0); }
+    WorkAreaOf(const WorkAreaOf&) = delete;
+    WorkAreaOf& operator=(const WorkAreaOf&) = delete;
+
+  private:
+    RECT former_{};
+};
+
+// As large as what the smallest supported screen leaves beside its task bar.
+class NativeSmallScreenTest : private WorkAreaOf, public NativeViewsTest {
+  protected:
+    NativeSmallScreenTest() : WorkAreaOf(640, 452) {}
+};
+
+TEST_F(NativeSmallScreenTest, MainWindowStandsInsideTheWorkArea) {
+    const RECT area = AreaOf(reinterpret_cast<HWND>(desktop.HandleOf(*main)));
+    EXPECT_GE(area.left, 0);
+    EXPECT_GE(area.top, 0);
+    EXPECT_LE(area.right, 640);
+    EXPECT_LE(area.bottom, 452);
+}
+
+TEST_F(NativeSmallScreenTest, EightViewButtonsFitUnderABanner) {
+    const RECT first = AreaOf(Window("cmdFirst"));
+    const RECT second = AreaOf(Window("cmdSecond"));
+    constexpr LONG banner = 64;
+    const RECT whole = AreaOf(Window("pagViews"));
+    EXPECT_LE(8 * (first.bottom - first.top) + 7 * (second.top - first.bottom),
+              whole.bottom - whole.top - banner);
+}
+
+TEST_F(NativeSmallScreenTest, NothingStandsBeyondTheEdgesOfThePage) {
+    const RECT whole = AreaOf(Window("pagViews"));
+    for (const Control* control : views->Controls()) {
+        const RECT area = AreaOf(Window(control->Name()));
+        EXPECT_LE(area.right, whole.right) << control->Name();
+        EXPECT_LE(area.bottom, whole.bottom) << control->Name();
+    }
+}
+
+}  // namespace
+}  // namespace velkarix
