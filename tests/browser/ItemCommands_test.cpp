@@ -86,6 +86,7 @@ TEST_P(ItemMoves, ListAnewWhenNoRowTakesPart) {
     Click(command);
     EXPECT_EQ(State(), before);
     EXPECT_NE(RowOf(list, place, enabled, 'B'), nullptr);
+    ASSERT_NE(RowOf(list, place, !enabled, 'C'), nullptr);
     EXPECT_FALSE(RowOf(list, place, !enabled, 'C')->Checked());
 }
 

@@ -132,6 +132,7 @@ TEST_P(ItemGestures, RefreshTheList) {
     Put(list, place, true, "C");
     Click(list.refresh);
     EXPECT_NE(RowOf(list, place, true, 'C'), nullptr);
+    ASSERT_NE(RowOf(list, place, true, 'A'), nullptr);
     EXPECT_FALSE(RowOf(list, place, true, 'A')->Checked());
     EXPECT_EQ(ListOf(list).SelectedRow(), nullptr);
 }

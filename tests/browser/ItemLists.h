@@ -271,7 +271,9 @@ class ItemListPage : public BrowserPage {
         return nullptr;
     }
     void TickItem(const ListCase& list, const PlaceCase& place, bool enabled, char letter) {
-        ListOf(list).UserCheck(*RowOf(list, place, enabled, letter), true);
+        ListRow* row = RowOf(list, place, enabled, letter);
+        ASSERT_NE(row, nullptr) << letter;
+        ListOf(list).UserCheck(*row, true);
     }
     void SelectItem(const ListCase& list, const PlaceCase& place, bool enabled, char letter) {
         ListOf(list).UserSelect(RowOf(list, place, enabled, letter));

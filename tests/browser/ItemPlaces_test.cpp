@@ -150,7 +150,7 @@ TEST_P(ItemOfAPlace, StandsWholeWhereItWasOrInARegistryFileWhicheverCallOfADelet
                  [&](Run& run) {
                      MemoryMachine& machine = run.program.machine;
                      if (Standing(machine, enabled) == whole) return;
-                     // Without the program's own folder the file lies in another one.
+                     // The file that was opened last is the one that was read back.
                      const RowTexts opened = machine.Journal().ArgumentsOf("CreateFileA");
                      machine.Journal().FailCall(SIZE_MAX, error::Success);
                      ASSERT_FALSE(opened.empty());

@@ -1,7 +1,6 @@
 // The reports of the browser page's lists, each compared whole.
 #include <initializer_list>
 
-#include "shell/Report.h"
 #include "tests/browser/ItemLists.h"
 
 namespace velkarix {
