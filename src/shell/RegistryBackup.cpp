@@ -1,10 +1,7 @@
 #include "shell/RegistryBackup.h"
 
-#include <optional>
-
 #include "registry/RegistryFile.h"
 #include "shell/BackupSet.h"
-#include "shell/FilePaths.h"
 #include "shell/TextFile.h"
 
 namespace velkarix {
@@ -20,19 +17,20 @@ bool CanBeContinued(const std::string& text) {
 ErrorCode KeepRegistryFile(Application& application, const std::string& listName,
                            const std::string& sections) {
     FileSystem& files = application.machine.files;
-    const std::string folder = BackupFolder(application.settings.InstallFolder());
+    const std::string installed = application.settings.InstallFolder();
+    // A file that is kept somewhere isn't found again.
+    if (installed.empty()) return error::PathNotFound;
+    const std::string folder = BackupFolder(installed);
     const ErrorCode made = files.CreateDirectoryA(folder.substr(0, folder.size() - 1));
     if (made != error::Success && made != error::AlreadyExists) return made;
 
     const std::string path =
         folder + BackupStem(application.machine.clock.GetLocalTime()) + "_" + listName + ".reg";
     std::string before;
-    std::string added = std::string(RegistryFileHeader) + sections;
-    if (PathExists(files, path)) {
-        before = ReadTextFile(files, path).value_or("");
-        if (!CanBeContinued(before)) return error::AlreadyExists;
-        added = sections;
-    }
+    const ErrorCode read = ReadTextFile(files, path, before);
+    const bool isNew = read == error::FileNotFound;
+    if (!isNew && (read != error::Success || !CanBeContinued(before))) return error::AlreadyExists;
+    const std::string added = (isNew ? std::string(RegistryFileHeader) : std::string()) + sections;
     const ErrorCode written = AppendTextFile(files, path, added);
     if (written != error::Success) return written;
     return ReadTextFile(files, path) == before + added ? error::Success : error::WriteFault;

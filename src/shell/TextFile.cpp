@@ -23,12 +23,13 @@ ErrorCode Write(FileSystem& files, const std::string& path, FileUse use, std::st
 
 }  // namespace
 
-std::optional<std::string> ReadTextFile(FileSystem& files, const std::string& path) {
+ErrorCode ReadTextFile(FileSystem& files, const std::string& path, std::string& text) {
     constexpr std::size_t BlockSize = 64 * 1024;
 
+    text.clear();
     FileHandle file = 0;
-    if (files.CreateFileA(path, FileUse::Read, file) != error::Success) return std::nullopt;
-    std::string text;
+    const ErrorCode opened = files.CreateFileA(path, FileUse::Read, file);
+    if (opened != error::Success) return opened;
     Bytes block(BlockSize);
     std::uint32_t read = 0;
     ErrorCode result = error::Success;
@@ -37,7 +38,12 @@ std::optional<std::string> ReadTextFile(FileSystem& files, const std::string& pa
         if (result == error::Success) text.append(block.begin(), block.begin() + read);
     } while (result == error::Success && read > 0);
     files.CloseFile(file);
-    if (result != error::Success) return std::nullopt;
+    return result;
+}
+
+std::optional<std::string> ReadTextFile(FileSystem& files, const std::string& path) {
+    std::string text;
+    if (ReadTextFile(files, path, text) != error::Success) return std::nullopt;
     return text;
 }
 

@@ -10,6 +10,9 @@
 
 namespace velkarix {
 
+// Gives the code of what failed, FileNotFound when there is no such file; `text` is the file's
+// bytes on Success.
+ErrorCode ReadTextFile(FileSystem& files, const std::string& path, std::string& text);
 // The file's bytes; nothing when it can't be opened or read to its end.
 std::optional<std::string> ReadTextFile(FileSystem& files, const std::string& path);
 // The file's first line without its end; nothing when the file is empty or can't be read.

@@ -50,7 +50,7 @@ TEST_F(RegistryBackupTest, TwoOfOneSecondGoIntoOneFileWithOneHeader) {
 
 TEST_F(RegistryBackupTest, NeverTouchesAFileThatItCouldNotContinue) {
     for (const std::string& text : {std::string(), std::string("mine"), header + "[HKEY_CURR",
-                                   header + "[HKEY_CURRENT_USER\\A]\r\n", section + other}) {
+                                    header + "[HKEY_CURRENT_USER\\A]\r\n", section + other}) {
         machine.AddFile(KeptFile("List")).Content(text);
         EXPECT_EQ(Keep(section), error::AlreadyExists) << text;
         EXPECT_EQ(Kept("List"), text);
@@ -81,17 +81,16 @@ TEST_F(RegistryBackupTest, IsNoSuccessWhenAnyOfItsCallsFailsAndKeepsWhatWasThere
     EXPECT_EQ(Keep(other), error::Success);
     const std::vector<std::string> calls = machine.Journal().Names();
     for (std::size_t i = 0; i < calls.size(); ++i) {
-        // A file that won't close has been written and read, and without its folder's name or the
-        // time the file is kept elsewhere.
-        if (calls[i] == "CloseFile" || calls[i] == "GetModuleFileNameA" ||
-            calls[i] == "GetLocalTime") {
-            continue;
-        }
+        // A file that won't close has been written and read, and without the time the file is kept
+        // under another name.
+        if (calls[i] == "CloseFile" || calls[i] == "GetLocalTime") continue;
         ItemWorld world;
         world.machine.AddFile(KeptFile("List")).Content(header + section);
         world.machine.Journal().FailCall(i, error::AccessDenied);
         EXPECT_NE(KeepRegistryFile(world.application, "List", other), error::Success) << calls[i];
-        EXPECT_TRUE(KeptText(world, "List").starts_with(header + section)) << calls[i];
+        // What it may have written behind the end can be merged all the same.
+        const std::string kept = KeptText(world, "List");
+        EXPECT_TRUE(kept == header + section || kept == header + section + other) << calls[i];
     }
 }
 

@@ -43,6 +43,17 @@ TEST_F(TextFileTest, GivesNothingForAFileThatIsMissingOrBreaksOff) {
     EXPECT_EQ(machine.files.OpenFileCount(), 0u);
 }
 
+TEST_F(TextFileTest, TellsAFileThatIsMissingFromOneThatCantBeRead) {
+    std::string text = "before";
+    EXPECT_EQ(ReadTextFile(machine.files, path, text), error::FileNotFound);
+    EXPECT_EQ(text, "");
+    machine.AddFile(path).Content("text");
+    machine.FailNext("CreateFileA");
+    EXPECT_EQ(ReadTextFile(machine.files, path, text), error::AccessDenied);
+    EXPECT_EQ(ReadTextFile(machine.files, path, text), error::Success);
+    EXPECT_EQ(text, "text");
+}
+
 TEST_F(TextFileTest, ReplacesAFile) {
     machine.AddFile(path).Content("a longer text than the new one");
     EXPECT_EQ(WriteTextFile(machine.files, path, "new"), error::Success);
