@@ -12,7 +12,7 @@ class DeleteItemTest : public ItemFixture {
     void DeleteKey() { DeleteItemKey(application, "List", User, item); }
     void DeleteValue() { DeleteItemValue(application, "List", User, Live, "Name"); }
 
-    const std::string item = std::string(Live) + "\\Item";
+    const std::string item = Live + std::string("\\Item");
 };
 
 TEST_F(DeleteItemTest, KeepsAKeyInAFileThatBringsItBackAndDeletesIt) {
