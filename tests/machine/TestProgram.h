@@ -11,22 +11,16 @@
 
 namespace velkarix {
 
-class TestProgram {
+// The program once it runs, on a machine that may have seen it run before.
+class RunningProgram {
   public:
-    explicit TestProgram(NamedSystem system = NamedSystem::WindowsXp) : machine(system) {
-        desktop.makeWindow = [this](const Form& form) {
+    explicit RunningProgram(MemoryMachine& machine) : application(machine.Parts(), desktop) {
+        desktop.makeWindow = [&machine](const Form& form) {
             return machine.windows.Add("VelkarixForm", form.Caption()).handle;
         };
         DefineForms(application);
     }
 
-    // A file in the program's folder.
-    MemoryEntry& AddInstalledFile(const std::string& name) {
-        return machine.AddFile(InstallFolder + ("\\" + name));
-    }
-    std::string InstalledText(const std::string& name) {
-        return machine.disk.ContentOf(InstallFolder + ("\\" + name)).value_or("");
-    }
     // The control of a loaded form; a test ends at once when there is none.
     template <typename ControlClass>
     ControlClass& Get(const std::string& form, const std::string& control) {
@@ -35,11 +29,29 @@ class TestProgram {
     // Loads the main window, as Main does.
     void Start() { application.forms.Show("frmMain"); }
 
-    static constexpr const char* InstallFolder = "C:\\Velkarix";
-
-    MemoryMachine machine;
     RecordingDesktop desktop;
-    Application application{machine.Parts(), desktop};
+    Application application;
+};
+
+struct OwnMachine {
+    MemoryMachine machine;
+};
+
+// The program on a machine of its own.
+class TestProgram : public OwnMachine, public RunningProgram {
+  public:
+    explicit TestProgram(NamedSystem system = NamedSystem::WindowsXp)
+        : OwnMachine{MemoryMachine(system)}, RunningProgram(machine) {}
+
+    // A file in the program's folder.
+    MemoryEntry& AddInstalledFile(const std::string& name) {
+        return machine.AddFile(InstallFolder + ("\\" + name));
+    }
+    std::string InstalledText(const std::string& name) {
+        return machine.disk.ContentOf(InstallFolder + ("\\" + name)).value_or("");
+    }
+
+    static constexpr const char* InstallFolder = "C:\\Velkarix";
 };
 
 }  // namespace velkarix
