@@ -44,6 +44,7 @@ Layout ItemList::ViewLayout() {
 
 void ItemList::Load() {
     ClearRows(list_, images_, shape_.pictures);
+    list_.EndSort();
     const std::span<const ItemPlace> places = shape_.places.places;
     for (const ItemPlace& place : places) Scan(place, true);
     for (std::size_t i = 0; i < places.size(); ++i) {

@@ -88,6 +88,13 @@ void ListView::Sort(std::size_t column, SortOrder order) {
     Notify(Aspect::Rows);
 }
 
+void ListView::EndSort() {
+    PutInOrder();
+    sortKey_ = 0;
+    order_ = SortOrder::Ascending;
+    sorted_ = false;
+}
+
 // Put off until somebody looks, so that filling a sorted list costs one sort and not one a row.
 void ListView::PutInOrder() {
     if (inOrder_) return;

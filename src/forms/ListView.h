@@ -91,6 +91,8 @@ class ListView : public Control {
     // Sorting is by text without regard to the case of A to Z; rows that compare equal keep the
     // order that they came in.
     void Sort(std::size_t column, SortOrder order);
+    // The rows stay as they stand and new ones come last, as in a new list.
+    void EndSort();
 
     // The pictures of the rows; null detaches. The list doesn't own them.
     const ImageList* Images() const { return images_; }

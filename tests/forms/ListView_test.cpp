@@ -90,6 +90,17 @@ TEST_F(ListViewTest, StaysSortedAfterItIsClearedAndFilledAgain) {
     EXPECT_EQ(Order(), "gamma beta Alpha ");
 }
 
+TEST_F(ListViewTest, LeavesItsRowsAsTheyStandWhenItsSortEnds) {
+    AddThree();
+    list.Sort(0, SortOrder::Descending);
+    list.EndSort();
+    list.Add("D", "delta", 1);
+    EXPECT_EQ(Order(), "gamma beta Alpha delta ");
+    EXPECT_FALSE(list.Sorted());
+    EXPECT_EQ(list.SortKey(), 0u);
+    EXPECT_EQ(list.Order(), SortOrder::Ascending);
+}
+
 TEST_F(ListViewTest, KeepsTheSelectedRowWhenItSorts) {
     AddThree();
     list.Select(&list.Row(1));
