@@ -147,6 +147,14 @@ TEST_F(ButtonListTest, TakesTheScriptLastWhetherItIsThereOrNot) {
     EXPECT_EQ(ColumnOf("lstvButtons", 5), (RowTexts{"0.0", ""}));
 }
 
+TEST_F(ButtonListTest, TakesNoFileOfAClassThatItDoesNotName) {
+    Set(ClassA, "Script", "C:\\gone.htm");
+    SetValue(Hive::ClassesRoot, "CLSID\\InprocServer32", "", "C:\\stray.dll");
+    Machine().AddFile("C:\\stray.dll");
+    Open();
+    EXPECT_EQ(Paths(), RowTexts{"C:\\gone.htm"});
+}
+
 // Each attempt replaces what the one before it found, also by nothing.
 TEST_F(ButtonListTest, HidesAButtonWhoseProgramIsGoneAndThatNamesNothingElse) {
     Set(ClassA, "ButtonText", "Gone");
@@ -288,6 +296,13 @@ TEST_F(ButtonIconTest, IsTheStockPictureForAButtonWhoseFileIsGone) {
     Open();
     EXPECT_EQ(FirstRow().Image(), 1u);
     EXPECT_EQ(LoadedIcons(), 1u);
+}
+
+// The system would look for it in other folders.
+TEST_F(ButtonIconTest, IsNotAskedOfAFileThatIsNotThere) {
+    PutButton("gone.dll,3");
+    Open();
+    EXPECT_EQ(Machine().Journal().CountOf("ExtractIconExA"), 0u);
 }
 
 TEST_F(ButtonIconTest, IsNotLoadedForAButtonThatMakesNoRow) {

@@ -49,6 +49,14 @@ TEST_P(ClassPathTest, FindsARelativeNameInTheCurrentFolderOnly) {
     EXPECT_EQ(Row(0).Text(Case().size + 1), "05/07/2003");
 }
 
+TEST_P(ClassPathTest, FindsAFileAlsoWhereTheShellHasNoCallForIt) {
+    Machine().files.SetHasPathFileExists(false);
+    PutLiveClass(ClassA);
+    AddClass(ClassA, "C:\\a.dll").Created(2003, 5, 7);
+    Open();
+    EXPECT_EQ(FactsOf(Row(0)), (RowTexts{"0.0", "05/07/2003", "", "", ""}));
+}
+
 struct RegisteredText {
     const char* text;
     const char* folder;
@@ -61,6 +69,7 @@ TEST_P(ClassPathTest, ShowsTheTextOfAPathThatIsNoneInTwoParts) {
         {"\"C:\\Tools\\a.dll\"", "\"C:\\Tools\\", "a.dll\""},
         {"C:\\Tools\\a.dll /switch", "C:\\Tools\\", "a.dll /switch"},
         {"C:\\Tools\\a.dll,-101", "C:\\Tools\\", "a.dll,-101"},
+        {"C:\\Tools\\*.dll", "C:\\Tools\\", "*.dll"},
         {"elsewhere.dll", "", "elsewhere.dll"},
         {"\\a.dll", "\\", "\\a.dll"},
         {"%NoSuchVariable%\\a.dll", "%NoSuchVariable%\\", "a.dll"},

@@ -134,6 +134,15 @@ TEST_P(OwnIconListTest, AddsTheSmallIconOfEachFileAlsoOfOneThatItHas) {
     EXPECT_EQ(Machine().shell.OpenIconCount(), 0u);
 }
 
+// The system would look for it in other folders.
+TEST_P(OwnIconListTest, AsksNoIconOfAFileThatIsNotThere) {
+    PutLiveClass(ClassA);
+    RegisterClass(ClassA, "gone.dll");
+    Open();
+    EXPECT_EQ(Row(0).Image(), 1u);
+    EXPECT_EQ(Machine().Journal().CountOf("ExtractIconExA"), 0u);
+}
+
 TEST_P(OwnIconListTest, BeginsItsPicturesAnewWhenRefreshed) {
     PutLiveClass(ClassA);
     AddClass(ClassA, "C:\\a.dll").Icon(0, {}, {1, 1, {7}});
