@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "AskInside.h"
+#include "FolderWindow.h"
 #include "Input.h"
 #include "MenuWindow.h"
 #include "ProgramTest.h"
@@ -139,17 +140,7 @@ TEST_F(Dialogs, OpenFolderShowsTheFolderInTheExplorer) {
     Start();
     SelectRow("SampleIdle.exe");
     ASSERT_TRUE(Running().Press("cmdOpen"));
-    const Window explorer = WaitFor([] {
-        const std::vector<Window> windows = AllTopWindows();
-        const auto found = std::ranges::find_if(windows, [](const Window& window) {
-            return window.Visible() && window.Class() == "ExplorerWClass";
-        });
-        return found == windows.end() ? Window() : *found;
-    });
-    ASSERT_TRUE(explorer);
-    EXPECT_TRUE(WaitUntil([&] { return explorer.Text() == "Samples"; })) << explorer.Text();
-    explorer.Post(WM_CLOSE);
-    EXPECT_TRUE(WaitUntil([&] { return !explorer; }));
+    EXPECT_TRUE(FolderIsShown("Samples"));
 }
 
 }  // namespace

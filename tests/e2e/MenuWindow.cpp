@@ -34,6 +34,18 @@ std::vector<MenuItem> ReadMenu(const Window& window) {
     return items;
 }
 
+std::vector<std::string> EntryCaptions(const Window& window) {
+    std::vector<std::string> captions;
+    for (const MenuItem& item : ReadMenu(window)) {
+        if (item.separator) {
+            captions.emplace_back("-");
+        } else {
+            captions.push_back(item.enabled ? item.caption : "(" + item.caption + ")");
+        }
+    }
+    return captions;
+}
+
 Window WaitForPopup(DWORD processId) {
     return WaitFor([processId] {
         for (const Window& window : TopWindows(processId)) {

@@ -19,6 +19,9 @@ struct MenuItem {
 // The items of a popup that `window` is, or of the system menu that `window` has.
 std::vector<MenuItem> ReadMenu(const Window& window);
 
+// Their captions as a reader sees them: grey ones in brackets, separators as dashes.
+std::vector<std::string> EntryCaptions(const Window& window);
+
 // The popup that a process has open, as soon as it does; none when there is none to come.
 Window WaitForPopup(DWORD processId);
 // Clicks the entry of that caption; false when the popup has none.

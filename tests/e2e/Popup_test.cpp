@@ -18,25 +18,13 @@ class Popup : public ProgramTest {
         ClickAt(Inside(List().LabelArea(RowOf(name))), Mouse::Right);
     }
     Window Menu() { return WaitForPopup(Running().Id()); }
-    // The entries as a reader sees them: grey ones in brackets, separators as dashes.
-    static Entries Captions(const Window& popup) {
-        Entries captions;
-        for (const MenuItem& item : ReadMenu(popup)) {
-            if (item.separator) {
-                captions.emplace_back("-");
-            } else {
-                captions.push_back(item.enabled ? item.caption : "(" + item.caption + ")");
-            }
-        }
-        return captions;
-    }
 };
 
 TEST_F(Popup, ARightClickOffersAddingInFiltered) {
     RightClick("SampleIdle.exe");
     const Window popup = Menu();
     EXPECT_EQ(
-        Captions(popup),
+        EntryCaptions(popup),
         (Entries{"&Add Checked to Safe list", "(&Remove checked from Safe list)", "-",
                  "&Kill Process", "&Delete Process", "-", "&View Information", "&Generate Report",
                  "-", "&Open Folder", "&Refresh", "-", "&Search Google"}));
@@ -47,7 +35,7 @@ TEST_F(Popup, ARightClickOffersRemovingInAll) {
     ASSERT_TRUE(Running().Press("optFilter(0)"));
     RightClick("SampleIdle.exe");
     const Window popup = Menu();
-    const Entries entries = Captions(popup);
+    const Entries entries = EntryCaptions(popup);
     ASSERT_EQ(entries.size(), 13u);
     EXPECT_EQ(entries[0], "(&Add Checked to Safe list)");
     EXPECT_EQ(entries[1], "&Remove checked from Safe list");
@@ -74,7 +62,7 @@ TEST_F(Popup, AFileThatIsGoneGreysWhatNeedsIt) {
     ASSERT_TRUE(MoveFileA((folder + "\\Going.exe").c_str(), (folder + "\\Other.exe").c_str()));
     RightClick("Going.exe");
     const Window popup = Menu();
-    const Entries entries = Captions(popup);
+    const Entries entries = EntryCaptions(popup);
     ASSERT_EQ(entries.size(), 13u);
     EXPECT_EQ(entries[4], "(&Delete Process)");
     EXPECT_EQ(entries[9], "&Open Folder");
@@ -99,7 +87,7 @@ TEST_F(Popup, ShiftF10OpensIt) {
     PressKey(VK_F10, {VK_SHIFT});
     const Window popup = Menu();
     ASSERT_TRUE(popup);
-    EXPECT_EQ(Captions(popup).size(), 13u);
+    EXPECT_EQ(EntryCaptions(popup).size(), 13u);
     EXPECT_TRUE(ClosePopup(popup));
 }
 

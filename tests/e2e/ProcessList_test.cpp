@@ -3,28 +3,13 @@
 
 #include "Input.h"
 #include "ProgramTest.h"
+#include "Samples.h"
 #include "Screen.h"
 #include "Setup.h"
 #include "Wait.h"
 
 namespace velkarix::e2e {
 namespace {
-
-// The file's length in kilobytes with one decimal.
-std::string SizeText(const WIN32_FIND_DATAA& file) {
-    const auto tenths = static_cast<unsigned>(file.nFileSizeLow * 10.0 / 1024 + 0.5);
-    return std::to_string(tenths / 10) + "." + std::to_string(tenths % 10);
-}
-
-std::string DateText(const WIN32_FIND_DATAA& file) {
-    FILETIME local{};
-    SYSTEMTIME time{};
-    FileTimeToLocalFileTime(&file.ftCreationTime, &local);
-    FileTimeToSystemTime(&local, &time);
-    char text[16] = "";
-    wsprintfA(text, "%02u/%02u/%04u", time.wMonth, time.wDay, time.wYear);
-    return text;
-}
 
 class ProcessList : public ProgramTest {
   protected:
@@ -47,14 +32,13 @@ TEST_F(ProcessList, TheColumnsHaveTheirCaptions) {
 }
 
 TEST_F(ProcessList, ARowShowsTheFactsOfTheFile) {
-    WIN32_FIND_DATAA file{};
-    const HANDLE search = FindFirstFileA(SamplePath("SampleIdle.exe").c_str(), &file);
-    ASSERT_NE(search, INVALID_HANDLE_VALUE);
-    FindClose(search);
+    const RowTexts facts = ShownFacts(SamplePath("SampleIdle.exe"));
+    ASSERT_EQ(facts[4], "Harmless idle program");
+    RowTexts row = {"SampleIdle.exe"};
+    row.insert(row.end(), facts.begin(), facts.end());
+    row.emplace_back("C:\\Samples\\");
     Start();
-    EXPECT_EQ(List().Row(RowOf("SampleIdle.exe")),
-              (RowTexts{"SampleIdle.exe", SizeText(file), DateText(file), "Sample Works",
-                        "Sample Suite", "Harmless idle program", "C:\\Samples\\"}));
+    EXPECT_EQ(List().Row(RowOf("SampleIdle.exe")), row);
 }
 
 TEST_F(ProcessList, TheProgramListsItself) {

@@ -48,10 +48,6 @@ Window Program::Control(const std::string& name) const {
     return WaitFor([&] { return main.Find(name); });
 }
 
-ListWindow Program::Processes() const {
-    return ListWindow(Control("lstvProcess"));
-}
-
 Window Program::Dialog(const std::string& name) const {
     return WaitFor([&] { return TopWindow(Id(), name); });
 }

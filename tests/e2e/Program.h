@@ -26,7 +26,8 @@ class Program {
     Window Main() const;
     // A control of the main window or of the page on view, as soon as it is there.
     Window Control(const std::string& name) const;
-    ListWindow Processes() const;
+    ListWindow List(const std::string& name) const { return ListWindow(Control(name)); }
+    ListWindow Processes() const { return List("lstvProcess"); }
     // A dialog of that name, as soon as it is there.
     Window Dialog(const std::string& name) const;
     // A message box, as soon as one is there.

@@ -56,13 +56,31 @@ int ProgramTest::RowOf(const std::string& name) {
     return row.value_or(0);
 }
 
-void ProgramTest::SelectRow(const std::string& name) {
+void ProgramTest::SelectRow(const ListWindow& list, int row) {
     BringToFront(Running().Main());
-    const int row = RowOf(name);
-    List().Show(row);
-    ClickAt(Inside(List().LabelArea(row)));
-    EXPECT_TRUE(WaitUntil([&] { return List().Selected() == row; }))
-        << name << " can't be selected";
+    list.Show(row);
+    ClickAt(Inside(list.LabelArea(row)));
+    EXPECT_TRUE(WaitUntil([&] { return list.Selected() == row; }))
+        << list.Text(row, 0) << " can't be selected";
+}
+
+void ProgramTest::Tick(const ListWindow& list, int row, bool ticked) {
+    BringToFront(Running().Main());
+    list.Show(row);
+    ClickAt(list.CheckBox(row));
+    EXPECT_TRUE(WaitUntil([&] { return list.Checked(row) == ticked; }))
+        << list.Text(row, 0) << " doesn't take the tick";
+}
+
+bool ProgramTest::TabTo(const std::string& name) {
+    constexpr int MostControls = 60;
+    for (int i = 0; i < MostControls; ++i) {
+        const Window before = FocusOf(Running().Main().Thread());
+        if (before.Name() == name) return true;
+        PressKey(VK_TAB);
+        WaitUntil([&] { return FocusOf(Running().Main().Thread()) != before; }, 2000);
+    }
+    return false;
 }
 
 std::string ProgramTest::Opened() {

@@ -26,7 +26,12 @@ class ProgramTest : public testing::Test {
     // there.
     int RowOf(const std::string& name);
     // Clicks on the row's text, and waits until it is selected.
-    void SelectRow(const std::string& name);
+    void SelectRow(const std::string& name) { SelectRow(List(), RowOf(name)); }
+    void SelectRow(const ListWindow& list, int row);
+    // Clicks on the row's check box, and waits until it is ticked or no longer is.
+    void Tick(const ListWindow& list, int row, bool ticked = true);
+    // Presses Tab until that control has the focus. False when it is never reached.
+    bool TabTo(const std::string& name);
 
     // What the stand-in for browser and viewers was asked to open since the test began, once it
     // was; empty when it wasn't.

@@ -11,12 +11,8 @@ namespace {
 
 class SafeList : public ProgramTest {
   protected:
-    // Clicks on the row's check box until the list says what it shows now.
-    bool ClickCheckBox(const std::string& name, bool expected) {
-        BringToFront(Running().Main());
-        List().Show(RowOf(name));
-        ClickAt(List().CheckBox(RowOf(name)));
-        return WaitUntil([&] { return List().Checked(RowOf(name)) == expected; });
+    void ClickCheckBox(const std::string& name, bool expected) {
+        Tick(List(), RowOf(name), expected);
     }
     std::string File() { return install_.Read("SafeProcess.vkl"); }
 };
@@ -24,9 +20,9 @@ class SafeList : public ProgramTest {
 TEST_F(SafeList, AClickOnTheCheckBoxTicksTheRowAndASecondClickUnticksIt) {
     Start();
     ASSERT_FALSE(List().Checked(RowOf("SampleSafe.exe")));
-    EXPECT_TRUE(ClickCheckBox("SampleSafe.exe", true));
+    ClickCheckBox("SampleSafe.exe", true);
     EXPECT_FALSE(List().Checked(RowOf("SampleIdle.exe")));
-    EXPECT_TRUE(ClickCheckBox("SampleSafe.exe", false));
+    ClickCheckBox("SampleSafe.exe", false);
 }
 
 TEST_F(SafeList, SpaceTicksTheSelectedRow) {
@@ -40,7 +36,7 @@ TEST_F(SafeList, SpaceTicksTheSelectedRow) {
 
 TEST_F(SafeList, AddingHidesTheRowAndWritesTheDigestToTheFile) {
     Start();
-    ASSERT_TRUE(ClickCheckBox("SampleSafe.exe", true));
+    ClickCheckBox("SampleSafe.exe", true);
     const int before = List().RowCount();
     ASSERT_TRUE(Running().Press("cmdAdd"));
     EXPECT_EQ(List().RowCount(), before - 1);
@@ -57,11 +53,11 @@ TEST_F(SafeList, AddingHidesTheRowAndWritesTheDigestToTheFile) {
 
 TEST_F(SafeList, RemovingUnticksTheRowAndCleansTheFile) {
     Start();
-    ASSERT_TRUE(ClickCheckBox("SampleSafe.exe", true));
+    ClickCheckBox("SampleSafe.exe", true);
     ASSERT_TRUE(Running().Press("cmdAdd"));
     ASSERT_TRUE(Running().Press("optFilter(0)"));
     ASSERT_TRUE(List().Find("SampleSafe.exe"));
-    ASSERT_TRUE(ClickCheckBox("SampleSafe.exe", true));
+    ClickCheckBox("SampleSafe.exe", true);
     ASSERT_TRUE(Running().Press("cmdRemove"));
     EXPECT_FALSE(List().Checked(RowOf("SampleSafe.exe")));
     EXPECT_EQ(File(), "");
@@ -72,7 +68,7 @@ TEST_F(SafeList, RemovingUnticksTheRowAndCleansTheFile) {
 TEST_F(SafeList, RemovingARowThatIsNotOnTheListKeepsItsTick) {
     Start();
     ASSERT_TRUE(Running().Press("optFilter(0)"));
-    ASSERT_TRUE(ClickCheckBox("SampleIdle.exe", true));
+    ClickCheckBox("SampleIdle.exe", true);
     ASSERT_TRUE(Running().Press("cmdRemove"));
     EXPECT_TRUE(List().Checked(RowOf("SampleIdle.exe")));
     EXPECT_FALSE(install_.Exists("SafeProcess.vkl"));
@@ -81,7 +77,7 @@ TEST_F(SafeList, RemovingARowThatIsNotOnTheListKeepsItsTick) {
 TEST_F(SafeList, AFileThatCannotBeWrittenIsTold) {
     CreateDirectoryA(install_.Path("SafeProcess.vkl").c_str(), nullptr);
     Start();
-    ASSERT_TRUE(ClickCheckBox("SampleSafe.exe", true));
+    ClickCheckBox("SampleSafe.exe", true);
     ASSERT_TRUE(Running().Control("cmdAdd").Click());
     const Window message = Running().Message();
     EXPECT_EQ(MessageText(message).find("Error Occurred cmdAdd: "), 0u) << MessageText(message);

@@ -41,6 +41,18 @@ int CountPixels(const RECT& area, const std::function<bool(COLORREF)>& counts) {
     return count;
 }
 
+COLORREF TextColor(const RECT& area) {
+    COLORREF darkest = RGB(255, 255, 255);
+    const auto lightness = [](COLORREF color) {
+        return GetRValue(color) + GetGValue(color) + GetBValue(color);
+    };
+    CountPixels(area, [&](COLORREF color) {
+        if (lightness(color) < lightness(darkest)) darkest = color;
+        return false;
+    });
+    return darkest;
+}
+
 bool IsReddish(COLORREF color) {
     return GetRValue(color) - std::max(GetGValue(color), GetBValue(color)) > 80;
 }

@@ -15,6 +15,9 @@ bool SaveScreenshot(const std::string& name);
 // How many pixels of an area of the screen satisfy `counts`.
 int CountPixels(const RECT& area, const std::function<bool(COLORREF)>& counts);
 
+// The colour of dark writing on light ground: the darkest there is in that area.
+COLORREF TextColor(const RECT& area);
+
 // Whether a colour, also one softened at the edge of a letter, is mostly red.
 bool IsReddish(COLORREF color);
 

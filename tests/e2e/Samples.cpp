@@ -1,0 +1,98 @@
+#include "Samples.h"
+
+#include <windows.h>
+
+#include <array>
+#include <optional>
+
+#include "Setup.h"
+
+namespace velkarix::e2e {
+
+namespace {
+
+// The samples that have a version resource.
+struct SampleVersion {
+    const char* file;
+    const char* description;
+    const char* comments;
+};
+constexpr SampleVersion Versions[] = {
+    {"SampleIdle.exe", "Harmless idle program", "Sleeps until it is ended"},
+    {"SampleSuspect.exe", "Harmless suspect", "The definition lists name this file"},
+    {"SampleHelper.dll", "Harmless helper object", "Helps nobody"},
+    {"SampleSnoop.dll", "Harmless snoop", "The definition lists name this file"},
+    {"SampleTracker.dll", "Harmless tracker", "The definition lists name its class"},
+    {"SampleToolbar.dll", "Harmless toolbar", "A band without buttons"},
+    {"SampleButton.dll", "Harmless button", "Does nothing when pressed"},
+    {"SampleProtocol.dll", "Harmless protocol handler", "Handles no address"},
+    {"SampleHook.dll", "Harmless search hook", "Finds nothing"},
+};
+
+constexpr std::size_t FactCount = 12;
+
+const SampleVersion* VersionOf(const std::string& path) {
+    for (const SampleVersion& version : Versions) {
+        if (path == SamplePath(version.file)) return &version;
+    }
+    return nullptr;
+}
+
+std::optional<WIN32_FIND_DATAA> FileOf(const std::string& path) {
+    WIN32_FIND_DATAA file{};
+    const HANDLE search = FindFirstFileA(path.c_str(), &file);
+    if (search == INVALID_HANDLE_VALUE) return std::nullopt;
+    FindClose(search);
+    return file;
+}
+
+// The file's length in kilobytes with one decimal.
+std::string SizeText(const WIN32_FIND_DATAA& file) {
+    const auto tenths = static_cast<unsigned>(file.nFileSizeLow * 10.0 / 1024 + 0.5);
+    return std::to_string(tenths / 10) + "." + std::to_string(tenths % 10);
+}
+
+std::string DateText(const WIN32_FIND_DATAA& file) {
+    FILETIME local{};
+    SYSTEMTIME time{};
+    FileTimeToLocalFileTime(&file.ftCreationTime, &local);
+    FileTimeToSystemTime(&local, &time);
+    char text[16] = "";
+    wsprintfA(text, "%02u/%02u/%04u", time.wMonth, time.wDay, time.wYear);
+    return text;
+}
+
+}  // namespace
+
+RowTexts ShownFacts(const std::string& path) {
+    const std::optional<WIN32_FIND_DATAA> file = FileOf(path);
+    if (!file) return RowTexts(5);
+    const RowTexts facts = VersionFacts(path);
+    return {SizeText(*file), DateText(*file), facts[7], facts[0], facts[2]};
+}
+
+RowTexts VersionFacts(const std::string& path) {
+    const SampleVersion* version = VersionOf(path);
+    if (version == nullptr) return RowTexts(FactCount);
+    const std::string file = version->file;
+    return {"Sample Suite",
+            "1.2",
+            version->description,
+            "1.2.3.4",
+            file.substr(0, file.size() - 4),
+            file,
+            version->comments,
+            "Sample Works",
+            "Free to copy",
+            "None",
+            "",
+            ""};
+}
+
+std::string SystemSamplePath() {
+    std::array<char, MAX_PATH> path{};
+    ExpandEnvironmentStringsA("%SystemRoot%\\system32\\SampleFilter.dll", path.data(), MAX_PATH);
+    return path.data();
+}
+
+}  // namespace velkarix::e2e

@@ -1,0 +1,20 @@
+// What the lists and reports of the program say of the files of the sample machine.
+#pragma once
+
+#include <string>
+
+#include "ListWindow.h"
+
+namespace velkarix::e2e {
+
+// As the lists show them: size, date, company, product and description; five empty texts when there
+// is no such file.
+RowTexts ShownFacts(const std::string& path);
+
+// The twelve version facts in the order of the reports; empty texts for a file without them.
+RowTexts VersionFacts(const std::string& path);
+
+// The full path of the library that lies in the system's folder.
+std::string SystemSamplePath();
+
+}  // namespace velkarix::e2e
