@@ -90,6 +90,15 @@ void WriteReportHeader(Application& application, const std::string& path,
     WriteTextFile(application.machine.files, path, text);
 }
 
+bool AppendReport(Application& application, const std::string& path, const std::string& text,
+                  const char* failure) {
+    const ErrorCode result = AppendTextFile(application.machine.files, path, text);
+    if (result == error::Success) return true;
+    application.Tell(MessageIcon::Information, failure + std::string(LineBreak) +
+                                                   application.registry.GetSystemErrorText(result));
+    return false;
+}
+
 bool PrintReport(Application& application, ListView& list, const ReportTable& table,
                  const std::string& path) {
     clsProcess facts(application.machine);
@@ -103,11 +112,7 @@ bool PrintReport(Application& application, ListView& list, const ReportTable& ta
         if (i > 0) text.append(LineBreak);
         text += block.Text();
     }
-    const ErrorCode result = AppendTextFile(application.machine.files, path, text);
-    if (result == error::Success) return true;
-    application.Tell(MessageIcon::Information, table.failure + std::string(LineBreak) +
-                                                   application.registry.GetSystemErrorText(result));
-    return false;
+    return AppendReport(application, path, text, table.failure);
 }
 
 void RunReportCommand(Application& application, Form& owner, const ListView& list,

@@ -40,6 +40,11 @@ std::span<const ReportLine> VersionBlock();
 // writer, which comes next, fails in its own way.
 void WriteReportHeader(Application& application, const std::string& path, const std::string& title);
 
+// Appends `text` to the report. False when it can't be written, after a message: `failure`, then
+// the error's description; what was written up to there stays.
+bool AppendReport(Application& application, const std::string& path, const std::string& text,
+                  const char* failure);
+
 // What a list's writer writes.
 struct ReportTable {
     std::span<const ReportLine> lines;
@@ -48,8 +53,8 @@ struct ReportTable {
     const char* failure;  // what the user is told, before the error's description
 };
 
-// Appends a block for each row in the shown order, with an empty line between two rows. False,
-// after a message, when the file can't be written; what was written up to there stays.
+// Appends a block for each row in the shown order, with an empty line between two rows. Failure
+// looks as with AppendReport.
 bool PrintReport(Application& application, ListView& list, const ReportTable& table,
                  const std::string& path);
 
