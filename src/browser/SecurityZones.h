@@ -1,7 +1,6 @@
 // The browser's security zones.
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <vector>
 
