@@ -28,11 +28,15 @@ constexpr ViewEntry Views[] = {
     {"cmdDomain", "Domains", "Domain", "Internext Explorer Domains List", "lstvDomains"},
     {"cmdAdvance", "Advanced", "Advance", "Internext Explorer Advance Settings", nullptr},
 };
+constexpr std::size_t URLs = 4;
 constexpr std::size_t Advanced = 7;
 constexpr std::size_t StripOrder[] = {0, 1, 2, 3, 5, 6, 4, 7};
 
 constexpr const char* AdvancedCaptions[] = {"URL Search Hooks", "Proxy Settings",
                                             "Protocol Defaults", "Security Zones"};
+
+// The one command button with the system's own look.
+constexpr const char* PlainButton = "cmdProxyApply";
 
 // Of each list's button that F5 presses while the list is shown.
 constexpr const char* RefreshHandlers[] = {
@@ -65,13 +69,13 @@ frmIE::frmIE(Application& application)
       toolbars_(application, *this),
       toolbarButtons_(application, *this),
       menus_(application, *this),
-      urls_("lblURLsToCome"),
+      urls_(application),
       protocols_(application, *this),
       domains_(application, *this),
       hooks_(application, *this),
-      proxy_("lblProxyToCome"),
-      protocolDefaults_("lblProtocolDefaultsToCome"),
-      securityZones_("lblSecurityZonesToCome") {
+      proxy_(application),
+      protocolDefaults_(application),
+      securityZones_(application) {
     MakeControls();
 }
 
@@ -133,20 +137,24 @@ void frmIE::Form_Load() {
     LoadMenus();
     LoadProtocols();
     LoadDomains();
+    LoadProxy();
     LoadHooks();
+    LoadProtocolDefaults();
+    loadSecurityZone(0);
 }
 
 void frmIE::ApplySkin() {
     SkinWindow(*this, "free");
     for (Control* control : Controls()) {
+        if (control->Name() == PlainButton) continue;
         if (dynamic_cast<Button*>(control) != nullptr) SkinControl(*control, "button");
+        if (dynamic_cast<TabStrip*>(control) != nullptr) SkinControl(*control, "Tab");
     }
     for (std::size_t i = 0; i < std::size(Views); ++i) {
         SkinControl(*viewButtons_[i], Views[i].skinElement);
         SkinControl(*fmIE_[i], "Frame");
     }
     SkinControl(*fmIEAdvanced_.back(), "free");
-    SkinControl(tbMain_, "Tab");
 }
 
 // A page that is loaded again shows its first view; so does the index of this one.
@@ -174,9 +182,11 @@ bool frmIE::SwitchAdvancedView(std::int16_t index) {
     return true;
 }
 
-// A list isn't filled again: it shows what its last load found.
+// A list isn't filled again: it shows what its last load found. The addresses alone are read
+// whenever they come into view.
 void frmIE::ViewButton_Click(std::size_t view) {
     if (!SwitchView(static_cast<std::int16_t>(view))) return;
+    if (view == URLs) urls_.Enter();
     if (const char* target = Views[view].focusTarget) application_.desktop.Focus(*Find(target));
 }
 

@@ -12,9 +12,12 @@
 #include "browser/DomainList.h"
 #include "browser/HookList.h"
 #include "browser/MenuList.h"
+#include "browser/ProtocolDefaultsView.h"
 #include "browser/ProtocolList.h"
+#include "browser/ProxyView.h"
+#include "browser/SecurityZoneView.h"
 #include "browser/ToolbarList.h"
-#include "browser/ViewToCome.h"
+#include "browser/UrlView.h"
 #include "forms/Controls.h"
 #include "forms/Form.h"
 #include "forms/TabStrip.h"
@@ -33,7 +36,7 @@ class frmIE : public Form {
     bool SwitchView(std::int16_t index);
     bool SwitchAdvancedView(std::int16_t index);
 
-    // Fill the lists anew, whenever they are called.
+    // Fill the views anew, whenever they are called.
     void LoadBHOs() { bhos_.Load(); }
     void LoadToolbars() { toolbars_.Load(); }
     void LoadButtons() { toolbarButtons_.Load(); }
@@ -41,6 +44,11 @@ class frmIE : public Form {
     void LoadProtocols() { protocols_.Load(); }
     void LoadDomains() { domains_.Load(); }
     void LoadHooks() { hooks_.Load(); }
+    void LoadUrls() { urls_.LoadUrls(); }
+    void LoadProxy() { proxy_.LoadProxy(); }
+    void LoadProtocolDefaults() { protocolDefaults_.LoadProtocolDefaults(); }
+    // `zone` is from 0 to 4.
+    void loadSecurityZone(std::int16_t zone) { securityZones_.loadSecurityZone(zone); }
 
     // Append the lists, in their shown order, to a report. False, after a message, when that fails.
     bool printReportBHO(const std::string& filePath) { return bhos_.PrintList(filePath); }
@@ -52,6 +60,7 @@ class frmIE : public Form {
     bool printReportProtocol(const std::string& filePath) { return protocols_.PrintList(filePath); }
     bool printReportDomain(const std::string& filePath) { return domains_.PrintList(filePath); }
     bool printReportHook(const std::string& filePath) { return hooks_.PrintList(filePath); }
+    bool printReportURLs(const std::string& filePath) { return urls_.printReportURLs(filePath); }
 
   private:
     void MakeControls();
@@ -76,13 +85,13 @@ class frmIE : public Form {
     ToolbarList toolbars_;
     ButtonList toolbarButtons_;
     MenuList menus_;
-    ViewToCome urls_;
+    UrlView urls_;
     ProtocolList protocols_;
     DomainList domains_;
     HookList hooks_;
-    ViewToCome proxy_;
-    ViewToCome protocolDefaults_;
-    ViewToCome securityZones_;
+    ProxyView proxy_;
+    ProtocolDefaultsView protocolDefaults_;
+    SecurityZoneView securityZones_;
 };
 
 }  // namespace velkarix
