@@ -69,7 +69,7 @@ void MoveItem(Application& application, const ItemPlaces& places, const BrowserI
     const std::string destination = HoldingKey(application, *item.place, !item.enabled);
     switch (places.kind) {
         case ItemKind::Key:
-            RelocateKey(application, hive, source + "\\" + item.name,
+            RelocateKey(application, places.list, hive, source + "\\" + item.name,
                         destination + "\\" + item.name);
             return;
         case ItemKind::TextValue:

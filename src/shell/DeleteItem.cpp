@@ -1,6 +1,5 @@
 #include "shell/DeleteItem.h"
 
-#include "base/Text.h"
 #include "registry/RegistryFile.h"
 #include "shell/RegistryBackup.h"
 #include "shell/Relocation.h"
@@ -11,14 +10,8 @@ namespace {
 // True when the caller may delete what `sections` holds; `exported` is the result of writing them.
 bool BackUpItem(Application& application, const std::string& listName, ErrorCode exported,
                 const std::string& sections) {
-    if (exported == error::FileNotFound) return false;
-    const ErrorCode kept =
-        exported == error::Success ? KeepRegistryFile(application, listName, sections) : exported;
-    if (kept == error::Success) return true;
-    application.Tell(MessageIcon::Information,
-                     "Error Occurred backupItem: " + std::string(LineBreak) +
-                         application.registry.GetSystemErrorText(kept));
-    return false;
+    return exported != error::FileNotFound &&
+           KeepOrTell(application, listName, "backupItem", exported, sections);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "shell/RegistryBackup.h"
 
+#include "base/Text.h"
 #include "registry/RegistryFile.h"
 #include "shell/BackupSet.h"
 #include "shell/TextFile.h"
@@ -34,6 +35,17 @@ ErrorCode KeepRegistryFile(Application& application, const std::string& listName
     const ErrorCode written = AppendTextFile(files, path, added);
     if (written != error::Success) return written;
     return ReadTextFile(files, path) == before + added ? error::Success : error::WriteFault;
+}
+
+bool KeepOrTell(Application& application, const std::string& listName, const char* operation,
+                ErrorCode exported, const std::string& sections) {
+    const ErrorCode kept =
+        exported == error::Success ? KeepRegistryFile(application, listName, sections) : exported;
+    if (kept == error::Success) return true;
+    application.Tell(MessageIcon::Information, std::string("Error Occurred ") + operation + ": " +
+                                                   LineBreak.data() +
+                                                   application.registry.GetSystemErrorText(kept));
+    return false;
 }
 
 }  // namespace velkarix

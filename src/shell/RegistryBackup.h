@@ -15,4 +15,9 @@ namespace velkarix {
 ErrorCode KeepRegistryFile(Application& application, const std::string& listName,
                            const std::string& sections);
 
+// Keeps `sections`, where `exported` tells that they were written whole. False when they aren't
+// kept, once the user was told why; `operation` names what wasn't done then.
+bool KeepOrTell(Application& application, const std::string& listName, const char* operation,
+                ErrorCode exported, const std::string& sections);
+
 }  // namespace velkarix

@@ -1,15 +1,35 @@
 #include "shell/Relocation.h"
 
 #include "registry/KeyTree.h"
+#include "registry/RegistryFile.h"
+#include "shell/RegistryBackup.h"
 #include "shell/ValueMove.h"
 
 namespace velkarix {
 
-void RelocateKey(Application& application, Hive hive, const std::string& source,
-                 const std::string& destination) {
+namespace {
+
+// True when the move may go on: what stands at the destination is a part of what comes, or is kept.
+bool KeepWhatIsOverwritten(Application& application, const std::string& listName, Hive hive,
+                           const std::string& source, const std::string& destination) {
+    Registry& raw = application.machine.registry;
+    if (ContainsTree(raw, hive, source, destination) == error::Success) return true;
+    std::string sections;
+    const ErrorCode exported = ExportKeyTree(raw, hive, destination, sections);
+    return KeepOrTell(application, listName, "backupItem", exported, sections);
+}
+
+}  // namespace
+
+void RelocateKey(Application& application, const std::string& listName, Hive hive,
+                 const std::string& source, const std::string& destination) {
     Registry& raw = application.machine.registry;
     if (!KeyExists(raw, hive, source)) return;
     const bool destinationWasThere = KeyExists(raw, hive, destination);
+    if (destinationWasThere &&
+        !KeepWhatIsOverwritten(application, listName, hive, source, destination)) {
+        return;
+    }
     const bool copied = application.registry.CopyKey(hive, source, hive, destination);
     // A copy that reports success may still be short.
     const ErrorCode compared =

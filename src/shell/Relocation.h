@@ -10,17 +10,20 @@
 
 namespace velkarix {
 
+// What a move changes on its way (a value's type or bytes), or writes over at its destination, is
+// first kept as it was in a registry file that is named for the list; where that fails nothing
+// moves.
+
 // Moves a key with all that lies below it. A destination that is there takes it in; one that was
 // made for a move that fails is removed again.
-void RelocateKey(Application& application, Hive hive, const std::string& source,
-                 const std::string& destination);
+void RelocateKey(Application& application, const std::string& listName, Hive hive,
+                 const std::string& source, const std::string& destination);
 
 // Removes a key with all that lies below it, and serves events meanwhile. True when the key itself
 // is gone.
 bool DeleteKeyTree(Application& application, Hive hive, const std::string& key);
 
-// Each moves one value between two keys. Where a move changes a value's type or bytes, the value is
-// first kept as it was in a registry file that is named for the list.
+// Each moves one value between two keys.
 
 // The value arrives as REG_SZ.
 void RelocateValue(Application& application, const std::string& listName, Hive hive,

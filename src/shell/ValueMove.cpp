@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "base/Text.h"
 #include "registry/KeyTree.h"
 #include "registry/RegistryFile.h"
 #include "shell/RegistryBackup.h"
@@ -33,18 +32,13 @@ bool TransferMark(modRegistry& registry, const ValueMove& move) {
     return registry.SetBinaryValue(move.hive, move.destination, move.valueName, bytes, !read);
 }
 
-// True when the move may go on: the value arrives as it is, or is kept as it was.
-bool KeepWhereItChanges(Application& application, const ValueMove& move, const RawValue& value,
-                        const RawValue& wanted) {
+// True when the move may go on: the value at the key is what is wanted there, or is kept as it was.
+bool KeepWhereItChanges(Application& application, const ValueMove& move, const std::string& key,
+                        const RawValue& value, const RawValue& wanted) {
     if (wanted.type == value.type && wanted.data == value.data) return true;
     std::string section;
-    ErrorCode kept = ExportSection(move.hive, move.source, {value}, section);
-    if (kept == error::Success) kept = KeepRegistryFile(application, move.listName, section);
-    if (kept == error::Success) return true;
-    application.Tell(MessageIcon::Information, std::string("Error Occurred ") + move.operation +
-                                                   ": " + LineBreak.data() +
-                                                   application.registry.GetSystemErrorText(kept));
-    return false;
+    const ErrorCode exported = ExportSection(move.hive, key, {value}, section);
+    return KeepOrTell(application, move.listName, move.operation, exported, section);
 }
 
 ErrorCode ReadDestination(Application& application, const ValueMove& move, RawValue& value) {
@@ -81,7 +75,8 @@ void MoveValue(Application& application, const ValueMove& move, const ValueForm&
     if (!isFree && there != error::Success) return sayNotDeleted(there);
 
     const RawValue wanted = form.become(value);
-    if (!KeepWhereItChanges(application, move, value, wanted)) return;
+    if (!KeepWhereItChanges(application, move, move.source, value, wanted)) return;
+    if (!isFree && !KeepWhereItChanges(application, move, move.destination, before, wanted)) return;
     if (!form.transfer(registry, move)) return;
     const ErrorCode compared = CompareArrived(application, move, wanted);
     if (compared == error::Success) {

@@ -44,35 +44,37 @@ bool HasItemAndMore(const MemoryHives& hives, const std::string& key) {
 }
 
 TEST(ItemFaults, AKeyThatMovesIsNeverLost) {
-    ExpectNeverLost(
-        {[](MemoryRegistry& registry) { AddItem(registry, LiveItem); },
-         [](Application& application) { RelocateKey(application, User, LiveItem, HeldItem); },
-         [](const MemoryRegistry& now, const MemoryHives&) {
-             return HasItem(now, LiveItem) || HasItem(now, HeldItem);
-         },
-         [](const MemoryRegistry& now) {
-             return !now.HasKey(User, LiveItem) && HasItem(now, HeldItem);
-         }});
+    ExpectNeverLost({[](MemoryRegistry& registry) { AddItem(registry, LiveItem); },
+                     [](Application& application) {
+                         RelocateKey(application, "List", User, LiveItem, HeldItem);
+                     },
+                     [](const MemoryRegistry& now, const MemoryHives&) {
+                         return HasItem(now, LiveItem) || HasItem(now, HeldItem);
+                     },
+                     [](const MemoryRegistry& now) {
+                         return !now.HasKey(User, LiveItem) && HasItem(now, HeldItem);
+                     }});
 }
 
 // The leftovers of a move that was cut short are merged into the other place.
 TEST(ItemFaults, AKeyThatMovesToAPlaceThatIsTakenIsNeverLost) {
-    ExpectNeverLost(
-        {[](MemoryRegistry& registry) {
-             AddItem(registry, LiveItem);
-             AddItem(registry, HeldItem);
-             registry.RemoveValue(User, HeldItem + "\\Sub\\Deep", "");
-             registry.SetValue(User, HeldItem, "", "old");
-             registry.SetValue(User, HeldItem + "\\Sub", "Own", "kept");
-         },
-         [](Application& application) { RelocateKey(application, User, LiveItem, HeldItem); },
-         [](const MemoryRegistry& now, const MemoryHives&) {
-             return now.ValueAt(User, HeldItem + "\\Sub", "Own").has_value() &&
-                    (HasItem(now, LiveItem) || HasItemAndMore(now, HeldItem));
-         },
-         [](const MemoryRegistry& now) {
-             return !now.HasKey(User, LiveItem) && HasItemAndMore(now, HeldItem);
-         }});
+    ExpectNeverLost({[](MemoryRegistry& registry) {
+                         AddItem(registry, LiveItem);
+                         AddItem(registry, HeldItem);
+                         registry.RemoveValue(User, HeldItem + "\\Sub\\Deep", "");
+                         registry.SetValue(User, HeldItem, "", "old");
+                         registry.SetValue(User, HeldItem + "\\Sub", "Own", "kept");
+                     },
+                     [](Application& application) {
+                         RelocateKey(application, "List", User, LiveItem, HeldItem);
+                     },
+                     [](const MemoryRegistry& now, const MemoryHives&) {
+                         return now.ValueAt(User, HeldItem + "\\Sub", "Own").has_value() &&
+                                (HasItem(now, LiveItem) || HasItemAndMore(now, HeldItem));
+                     },
+                     [](const MemoryRegistry& now) {
+                         return !now.HasKey(User, LiveItem) && HasItemAndMore(now, HeldItem);
+                     }});
 }
 
 using MoveFunction = std::function<void(Application&)>;

@@ -20,7 +20,7 @@ class RelocateKeyTest : public ItemFixture {
         machine.SetDword(User, key + "\\Sub\\Deep", "Number", 5);
         machine.AddKey(User, key + "\\Bare");
     }
-    void Disable() { RelocateKey(application, User, live, held); }
+    void Disable() { RelocateKey(application, "List", User, live, held); }
     std::string TreeOf(const std::string& key) { return machine.registry.TreeText(User, key); }
 
     const std::string live = std::string(Live) + "\\Item";
@@ -33,7 +33,7 @@ TEST_F(RelocateKeyTest, MovesTheKeyWithAllBelowItAndBackAgain) {
     Disable();
     EXPECT_EQ(TreeOf(held), item);
     EXPECT_FALSE(machine.registry.HasKey(User, live));
-    RelocateKey(application, User, held, live);
+    RelocateKey(application, "List", User, held, live);
     EXPECT_EQ(TreeOf(live), item);
     EXPECT_FALSE(machine.registry.HasKey(User, held));
     EXPECT_TRUE(machine.registry.HasKey(User, Held));
@@ -56,6 +56,37 @@ TEST_F(RelocateKeyTest, MergesIntoADestinationThatIsThere) {
     EXPECT_EQ(machine.registry.TextAt(User, held, ""), "default");
     EXPECT_EQ(machine.registry.TextAt(User, held, "Own"), "kept");
     EXPECT_FALSE(machine.registry.HasKey(User, live));
+}
+
+TEST_F(RelocateKeyTest, KeepsADestinationOfWhichItWritesSomethingOver) {
+    AddItem(live);
+    machine.SetValue(User, held, "", "other");
+    const std::string other = TreeOf(held);
+    Disable();
+    EXPECT_FALSE(machine.registry.HasKey(User, live));
+    MemoryHives kept;
+    EXPECT_TRUE(MergeRegistryFile(kept, Kept("List")));
+    EXPECT_EQ(kept.TreeText(User, held), other);
+}
+
+TEST_F(RelocateKeyTest, MovesNothingOntoADestinationThatCantBeKept) {
+    AddItem(live);
+    machine.SetValue(User, held, "", "other");
+    const std::string other = TreeOf(held);
+    machine.disk.SetFreeBytes(0);
+    Disable();
+    EXPECT_TRUE(machine.registry.HasKey(User, live));
+    EXPECT_EQ(TreeOf(held), other);
+    EXPECT_EQ(OnlyMessage(MessageIcon::Information),
+              "Error Occurred backupItem: \r\nThe disk is full.\r\n");
+}
+
+TEST_F(RelocateKeyTest, KeepsNothingWhereTheDestinationIsAPartOfTheItem) {
+    AddItem(live);
+    machine.SetValue(User, held, "", "default");
+    Disable();
+    EXPECT_FALSE(machine.registry.HasKey(User, live));
+    EXPECT_EQ(machine.Journal().CountOf("WriteFile"), 0u);
 }
 
 TEST_F(RelocateKeyTest, DoesNothingWhenTheItemIsGone) {

@@ -19,6 +19,7 @@ Bytes Text(const std::string& text) {
 class ValueMoveTest : public ItemFixture {
   protected:
     void Put(std::uint32_t type, const Bytes& data, Hive hive = User) {
+        machine.registry.RemoveValue(hive, Held, Clsid);
         machine.registry.SetRaw(hive, Live, Clsid, type, data);
         machine.SetValue(hive, Live, "Other", "stays");
     }
@@ -55,6 +56,27 @@ TEST_F(ValueMoveTest, ATextMovesAsItIsAndKeepsNoFile) {
     MoveToolbar(AllUsers);
     ExpectArrived(registryType::Sz, Text("text"), AllUsers);
     EXPECT_EQ(Kept("Hooks") + Kept("Toolbar"), "");
+}
+
+TEST_F(ValueMoveTest, WhatIsWrittenOverAtTheDestinationIsKeptAsItWas) {
+    Put(registryType::Sz, Text("text"));
+    machine.registry.SetRaw(User, Held, Clsid, registryType::Sz, Text("other"));
+    MoveHook();
+    ExpectArrived(registryType::Sz, Text("text"));
+    EXPECT_EQ(Kept("Hooks"),
+              "REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\Software\\Velkarix\\Disabled\\List]\r\n"
+              "\"{0-1}\"=\"other\"\r\n\r\n");
+}
+
+TEST_F(ValueMoveTest, NothingMovesOntoAValueThatCantBeKept) {
+    Put(registryType::Sz, Text("text"));
+    machine.registry.SetRaw(User, Held, Clsid, registryType::Sz, Text("other"));
+    machine.disk.SetFreeBytes(0);
+    MoveHook();
+    EXPECT_EQ(LiveValue(), (MemoryValue{Clsid, registryType::Sz, Text("text")}));
+    EXPECT_EQ(HeldValue(), (MemoryValue{Clsid, registryType::Sz, Text("other")}));
+    EXPECT_EQ(OnlyMessage(MessageIcon::Information),
+              "Error Occurred endisHook: \r\nThe disk is full.\r\n");
 }
 
 TEST_F(ValueMoveTest, AnythingElseBecomesATextAndIsKeptAsItWas) {
