@@ -25,10 +25,6 @@ void PanelWindow::AppearanceChanged() {
 }
 
 LRESULT PanelWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    // The ground of the window class is all that a plain panel shows.
-    if (panel_.PanelLook() == Panel::Look::Plain) {
-        return ControlWindow::OnMessage(message, wParam, lParam);
-    }
     if (message == WM_ERASEBKGND) return TRUE;  // the drawing covers all
     if (message == WM_PAINT) {
         PAINTSTRUCT paint{};

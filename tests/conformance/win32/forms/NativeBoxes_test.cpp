@@ -68,6 +68,46 @@ TEST_F(NativeComboBoxTest, EscapeClosesTheDroppedListAndTheModelHasWhatTheBoxSho
     EXPECT_EQ(views->rights.Selected(), Selected());
 }
 
+TEST_F(NativeComboBoxTest, SelectionThatTheClosingListTakesBackIsTheModels) {
+    views->rights.Select(3);
+    SendMessageA(Box(), CB_SETCURSEL, 5, 0);
+    const auto closed = MAKEWPARAM(GetDlgCtrlID(Box()), CBN_CLOSEUP);
+    SendMessageA(GetParent(Box()), WM_COMMAND, closed, reinterpret_cast<LPARAM>(Box()));
+    SendMessageA(GetParent(Box()), WM_COMMAND, closed, reinterpret_cast<LPARAM>(Box()));
+    EXPECT_EQ(calls, Calls{"rights entry 5"});
+}
+
+class DialogWithBox : public Form {
+  public:
+    DialogWithBox(Desktop& desktop, Calls& calls)
+        : Form("dlgBox", "Dialog", FormKind::Dialog),
+          desktop_(desktop),
+          box_("cmbDialog", "Box", {"one", "two"}, {}),
+          button_("cmdDialog", "Button", [&calls] { calls.push_back("button"); }) {
+        SetControls({&box_, &button_});
+        SetLayout(Column({Item(box_), Item(button_)}));
+    }
+    void Form_Load() override {
+        const auto form = reinterpret_cast<HWND>(desktop_.HandleOf(*this));
+        const HWND box = GetWindow(form, GW_CHILD);
+        PostMessageA(box, WM_KEYDOWN, VK_F4, 1);
+        PostMessageA(box, WM_KEYDOWN, VK_ESCAPE, 1);
+        PostMessageA(GetWindow(box, GW_HWNDNEXT), BM_CLICK, 0, 0);
+        PostMessageA(box, WM_KEYDOWN, VK_ESCAPE, 1);
+    }
+
+  private:
+    Desktop& desktop_;
+    ComboBox box_;
+    Button button_;
+};
+
+TEST_F(NativeComboBoxTest, EscapeClosesTheDroppedListBeforeTheDialog) {
+    forms.Define("dlgBox", [this] { return std::make_unique<DialogWithBox>(desktop, calls); });
+    forms.ShowModal("dlgBox", *main);
+    EXPECT_EQ(calls, Calls{"button"});
+}
+
 TEST_F(NativeComboBoxTest, F4AndAltDownDropTheList) {
     PressAndServe("cmbRights", VK_F4);
     EXPECT_TRUE(Dropped());

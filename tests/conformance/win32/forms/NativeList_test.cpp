@@ -33,6 +33,17 @@ class NativeListTest : public NativeFormsTest {
         return static_cast<UINT>(SendMessageA(List(), LVM_GETITEMSTATE,
                                               static_cast<WPARAM>(position), LVIS_STATEIMAGEMASK));
     }
+    HIMAGELIST NativeImages() {
+        desktop.YieldEvents();
+        return reinterpret_cast<HIMAGELIST>(SendMessageA(List(), LVM_GETIMAGELIST, LVSIL_SMALL, 0));
+    }
+    COLORREF MiddleOfImage(int position) {
+        const HDC context = GetDC(List());
+        ImageList_Draw(NativeImages(), position, context, 0, 0, ILD_NORMAL);
+        const COLORREF colour = GetPixel(context, 8, 8);
+        ReleaseDC(List(), context);
+        return colour;
+    }
     RECT Label(int position) const {
         RECT area{LVIR_LABEL, 0, 0, 0};
         SendMessageA(List(), LVM_GETITEMRECT, static_cast<WPARAM>(position),
@@ -154,22 +165,20 @@ TEST_F(NativeListTest, TypingLeadsToTheRow) {
 }
 
 TEST_F(NativeListTest, ImagesFollowTheModelsWhenItBeginsAnew) {
-    const auto count = [this] {
-        desktop.YieldEvents();
-        return ImageList_GetImageCount(
-            reinterpret_cast<HIMAGELIST>(SendMessageA(List(), LVM_GETIMAGELIST, LVSIL_SMALL, 0)));
-    };
     ImageList images;
     images.Add(StockPicture{"Software"});
     page->list.SetImages(&images);
-    EXPECT_EQ(count(), 1);
+    EXPECT_EQ(ImageList_GetImageCount(NativeImages()), 1);
     images.Add(Picture{1, 1, {0xFF00FF00}});
     page->list.Add("K", "row", 2);
-    EXPECT_EQ(count(), 2);
-    images.Clear();
-    images.Add(StockPicture{"Unknown"});
+    EXPECT_EQ(ImageList_GetImageCount(NativeImages()), 2);
+    EXPECT_EQ(MiddleOfImage(1), RGB(0, 255, 0));
     page->list.Clear();
-    EXPECT_EQ(count(), 1);
+    images.Clear();
+    images.Add(StockPicture{"Software"});
+    images.Add(Picture{1, 1, {0xFF0000FF}});
+    EXPECT_EQ(ImageList_GetImageCount(NativeImages()), 2);
+    EXPECT_EQ(MiddleOfImage(1), RGB(0, 0, 255));
     page->list.SetImages(nullptr);
     desktop.YieldEvents();
 }

@@ -67,8 +67,13 @@ TEST_F(NativeViewTest, ViewsChangeInOneActWhenTheHandlerIsThrough) {
 }
 
 TEST_F(NativeViewTest, HandlerMayGiveTheFocusToAViewThatItHasJustShown) {
-    views->whileSwitching = [&] { desktop.Focus(views->text); };
+    bool shown = false;
+    views->whileSwitching = [&] {
+        desktop.Focus(views->text);
+        shown = IsOnView("txtTest");
+    };
     Post(Window("cmdSecond"), BM_CLICK, 0);
+    EXPECT_TRUE(shown);
     EXPECT_EQ(GetFocus(), Window("txtTest"));
 }
 
