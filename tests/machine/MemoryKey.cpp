@@ -26,6 +26,7 @@ std::vector<std::string> Levels(const std::string& path) {
 std::string Readable(const Bytes& data) {
     constexpr char digits[] = "0123456789abcdef";
     std::string text;
+    text.reserve(data.size());
     for (const std::uint8_t byte : data) {
         if (byte >= ' ' && byte < 0x7F && byte != '\\') {
             text += static_cast<char>(byte);
