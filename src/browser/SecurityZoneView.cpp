@@ -78,7 +78,8 @@ std::vector<Control*> SecurityZoneView::Controls() {
 }
 
 Layout SecurityZoneView::ViewLayout() {
-    return Group(tbSecurityZone_, Column({Item(editor_.List(), 1), editor_.EditRow()}));
+    // The row in a row of its own: it stretches along, and leaves all height to the list.
+    return Group(tbSecurityZone_, Column({Item(editor_.List(), 1), Row({editor_.EditRow()})}));
 }
 
 std::string SecurityZoneView::ZoneStatusText(std::int32_t value) {
