@@ -40,6 +40,10 @@ const testing::Environment* const runningSamples =
 
 ProgramTest::ProgramTest() {
     install_.Write("Settings.ini", "[Main]\r\nFirstRun=1\r\n[Update]\r\nCheckUpdate=0\r\n");
+    ForgetOpened();
+}
+
+void ProgramTest::ForgetOpened() {
     DeleteFileA(RecorderLog().c_str());
 }
 

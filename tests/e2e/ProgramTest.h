@@ -36,6 +36,8 @@ class ProgramTest : public testing::Test {
     // What the stand-in for browser and viewers was asked to open since the test began, once it
     // was; empty when it wasn't.
     static std::string Opened();
+    // Has what was opened up to now forgotten.
+    static void ForgetOpened();
 
     Install install_;
 

@@ -2,7 +2,8 @@
 #include <algorithm>
 
 #include "Input.h"
-#include "ReportTest.h"
+#include "ProgramTest.h"
+#include "Reports.h"
 #include "Samples.h"
 #include "Setup.h"
 #include "SystemFacts.h"
@@ -55,10 +56,17 @@ std::string Block(const RowTexts& row, const std::string& mark, const std::strin
     return text + VersionBlock(VersionFacts(path));
 }
 
-class Report : public ReportTest {
+class Report : public ProgramTest {
   protected:
-    Window OpenDialog() { return ReportTest::OpenDialog("cmdReport"); }
-    std::string Save() { return ReportTest::Save("cmdReport", "Mine.txt"); }
+    Window OpenDialog() { return OpenReportDialog(Running(), "cmdReport"); }
+    // What was saved, once the viewer was asked to show it.
+    std::string Save() {
+        const std::string path = install_.Path("Mine.txt");
+        EXPECT_TRUE(SaveReport(Running(), "cmdReport", path));
+        const std::string opened = Opened();
+        EXPECT_NE(opened.find("\"" + path + "\""), std::string::npos) << opened;
+        return install_.Read("Mine.txt");
+    }
 };
 
 class EverySystemReport : public Report {};
@@ -136,17 +144,17 @@ TEST_F(Report, ItsNameIsProposed) {
     Start();
     const Window dialog = OpenDialog();
     ASSERT_TRUE(dialog);
-    EXPECT_EQ(FileName(dialog).Text(), "ProcessReport.txt");
-    EXPECT_TRUE(Press(dialog, IDCANCEL));
+    EXPECT_EQ(FileNameBox(dialog).Text(), "ProcessReport.txt");
+    EXPECT_TRUE(PressIn(dialog, IDCANCEL));
 }
 
 TEST_F(Report, CancelWritesAndShowsNothing) {
     Start();
     const Window dialog = OpenDialog();
     ASSERT_TRUE(dialog);
-    FileName(dialog).Send(WM_SETTEXT, 0,
-                          reinterpret_cast<LPARAM>(install_.Path("Mine.txt").c_str()));
-    ASSERT_TRUE(Press(dialog, IDCANCEL));
+    FileNameBox(dialog).Send(WM_SETTEXT, 0,
+                             reinterpret_cast<LPARAM>(install_.Path("Mine.txt").c_str()));
+    ASSERT_TRUE(PressIn(dialog, IDCANCEL));
     ASSERT_TRUE(WaitUntil([&] { return !dialog; }));
     EXPECT_TRUE(Running().Press("cmdRefresh"));
     EXPECT_FALSE(install_.Exists("Mine.txt"));
@@ -158,9 +166,9 @@ TEST_F(Report, AnExistingFileIsReplacedWhenTheUserAgrees) {
     Start();
     const Window dialog = OpenDialog();
     ASSERT_TRUE(dialog);
-    FileName(dialog).Send(WM_SETTEXT, 0,
-                          reinterpret_cast<LPARAM>(install_.Path("Mine.txt").c_str()));
-    ASSERT_TRUE(Press(dialog, IDOK));
+    FileNameBox(dialog).Send(WM_SETTEXT, 0,
+                             reinterpret_cast<LPARAM>(install_.Path("Mine.txt").c_str()));
+    ASSERT_TRUE(PressIn(dialog, IDOK));
     const Window question = WaitFor([&] {
         const Window top = Running().SystemDialog();
         return top == dialog ? Window() : top;

@@ -3,6 +3,7 @@
 #include "MenuWindow.h"
 #include "ProgramTest.h"
 #include "Screen.h"
+#include "TabWindow.h"
 #include "Wait.h"
 
 namespace velkarix::e2e {
@@ -15,9 +16,30 @@ struct Stop {
 };
 
 const Stop OtherPages[] = {
-    {"cmdIE", "frmIE", "2-internet-explorer"},        {"cmdStartup", "frmStartup", "3-startup"},
-    {"cmdAddremove", "frmAddRemove", "4-add-remove"}, {"cmdOptions", "frmOptions", "5-options"},
+    {"cmdStartup", "frmStartup", "3-startup"},
+    {"cmdAddremove", "frmAddRemove", "4-add-remove"},
+    {"cmdOptions", "frmOptions", "5-options"},
     {"cmdUtilities", "frmUtilities", "6-utilities"},
+};
+
+struct View {
+    const char* button;
+    const char* picture;
+};
+const View BrowserViews[] = {
+    {"cmdBHO", "2-internet-explorer-1-bhos"},
+    {"cmdToolbar", "2-internet-explorer-2-toolbars"},
+    {"cmdButton", "2-internet-explorer-3-buttons"},
+    {"cmdMenu", "2-internet-explorer-4-context-menu"},
+    {"cmdProtocol", "2-internet-explorer-5-protocols"},
+    {"cmdDomain", "2-internet-explorer-6-domains"},
+    {"cmdURLs", "2-internet-explorer-7-urls"},
+    {"cmdAdvance", "2-internet-explorer-8-advanced-1-hooks"},
+};
+const char* const AdvancedPictures[] = {
+    "2-internet-explorer-8-advanced-2-proxy",
+    "2-internet-explorer-8-advanced-3-protocol-defaults",
+    "2-internet-explorer-8-advanced-4-security-zones",
 };
 
 class Tour : public ProgramTest {
@@ -65,6 +87,21 @@ TEST_F(Tour, About) {
     ASSERT_TRUE(about);
     EXPECT_TRUE(Picture("about"));
     EXPECT_TRUE(about.Find("cmdOk").Click());
+}
+
+TEST_F(Tour, TheViewsOfTheBrowserPage) {
+    ASSERT_TRUE(Running().Press("cmdIE"));
+    for (const View& view : BrowserViews) {
+        ASSERT_TRUE(Running().Press(view.button));
+        EXPECT_TRUE(Picture(view.picture));
+    }
+    const TabWindow tabs(Running().Control("tbMain"));
+    int tab = 1;
+    for (const char* picture : AdvancedPictures) {
+        ClickAt(Inside(tabs.TabArea(++tab)));
+        ASSERT_TRUE(WaitUntil([&] { return tabs.Selected() == tab; }));
+        EXPECT_TRUE(Picture(picture));
+    }
 }
 
 TEST_F(Tour, TheOtherPages) {
