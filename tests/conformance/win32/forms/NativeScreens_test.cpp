@@ -3,6 +3,14 @@
 namespace velkarix {
 namespace {
 
+// Pixels of this machine.
+int Pixels(int at96) {
+    const HDC screen = GetDC(nullptr);
+    const int pixels = MulDiv(at96, GetDeviceCaps(screen, LOGPIXELSX), 96);
+    ReleaseDC(nullptr, screen);
+    return pixels;
+}
+
 // The part of the screen that windows may cover, for the length of a scope.
 class WorkAreaOf {
   public:
@@ -22,21 +30,21 @@ class WorkAreaOf {
 // As large as what the smallest supported screen leaves beside its task bar.
 class NativeSmallScreenTest : private WorkAreaOf, public NativeViewsTest {
   protected:
-    NativeSmallScreenTest() : WorkAreaOf(640, 452) {}
+    NativeSmallScreenTest() : WorkAreaOf(Pixels(640), Pixels(452)) {}
 };
 
 TEST_F(NativeSmallScreenTest, MainWindowStandsInsideTheWorkArea) {
     const RECT area = AreaOf(reinterpret_cast<HWND>(desktop.HandleOf(*main)));
     EXPECT_GE(area.left, 0);
     EXPECT_GE(area.top, 0);
-    EXPECT_LE(area.right, 640);
-    EXPECT_LE(area.bottom, 452);
+    EXPECT_LE(area.right, Pixels(640));
+    EXPECT_LE(area.bottom, Pixels(452));
 }
 
 TEST_F(NativeSmallScreenTest, EightViewButtonsFitUnderABanner) {
     const RECT first = AreaOf(Window("cmdFirst"));
     const RECT second = AreaOf(Window("cmdSecond"));
-    constexpr LONG banner = 64;
+    const LONG banner = Pixels(64);
     const RECT whole = AreaOf(Window("pagViews"));
     EXPECT_LE(8 * (first.bottom - first.top) + 7 * (second.top - first.bottom),
               whole.bottom - whole.top - banner);
