@@ -38,6 +38,7 @@ const ItemListShape Shape = {
     .places = BHOPlaces,
     .pictures = ClassPictures,
     .buttons = Buttons,
+    .refreshButton = "cmdRefreshBHO",
     .folderButton = "cmdFolderBHO",
     .menu = "mnuBHO",
     .openEntry = "mnuBHO_Open",

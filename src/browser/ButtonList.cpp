@@ -49,6 +49,7 @@ const ItemListShape Shape = {
     .places = ButtonPlaces,
     .pictures = ClassPictures,
     .buttons = Buttons,
+    .refreshButton = "cmdRefreshButton",
     .folderButton = "cmdFolderButton",
     .menu = "mnuButtons",
     .openEntry = "mnuButtons_Open",

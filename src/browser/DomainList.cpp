@@ -36,6 +36,7 @@ const ItemListShape Shape = {
     .places = DomainPlaces,
     .pictures = StatusPictures,
     .buttons = Buttons,
+    .refreshButton = "cmdDomainRefresh",
     .menu = "mnuDomain",
     .report = {.command = {.emptyMessage = "No Domain to print",
                            .fileName = "IE Domain Report.txt",

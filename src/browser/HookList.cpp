@@ -38,6 +38,7 @@ const ItemListShape Shape = {
     .places = HookPlaces,
     .pictures = ClassPictures,
     .buttons = Buttons,
+    .refreshButton = "cmdHookRefresh",
     .folderButton = "cmdHookFolder",
     .menu = "mnuHook",
     .openEntry = "mnuHook_Open",

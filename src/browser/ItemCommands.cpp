@@ -12,9 +12,17 @@
 
 namespace velkarix {
 
-// All items are taken from the rows before the first one moves, and this list isn't looked at
-// again unless it still lives: events that are served meanwhile may rebuild the list or end its
-// page.
+namespace {
+
+// Builds a list anew after a change. Events were served meanwhile, so that the page which began
+// the change may have gone, and come again.
+void Reload(Application& application, const std::string& page, const std::string& handler) {
+    if (Form* loaded = application.forms.Loaded(page)) loaded->Run(handler);
+}
+
+}  // namespace
+
+// What the moves need is taken from this list before the first one: it may go meanwhile.
 void ItemList::MoveChecked(bool enabled) {
     const ItemChange change(application_);
     if (!change.Begun()) return;
@@ -24,11 +32,12 @@ void ItemList::MoveChecked(bool enabled) {
         BrowserItem item = ItemOf(row);
         if (row.Checked() && item.enabled == enabled) items.push_back(std::move(item));
     }
-    const std::weak_ptr<const bool> life = life_;
     Application& application = application_;
+    const std::string page = page_.Name();
+    const std::string refresh = RefreshHandler();
     const ItemPlaces& places = shape_.places;
     for (const BrowserItem& item : items) MoveItem(application, places, item);
-    if (!life.expired()) Load();
+    Reload(application, page, refresh);
 }
 
 void ItemList::DeleteSelected() {
@@ -43,9 +52,11 @@ void ItemList::DeleteSelected() {
         MessageAnswer::Yes) {
         return;
     }
-    const std::weak_ptr<const bool> life = life_;
-    DeleteItem(application_, shape_.places, item);
-    if (!life.expired()) Load();
+    Application& application = application_;
+    const std::string page = page_.Name();
+    const std::string refresh = RefreshHandler();
+    DeleteItem(application, shape_.places, item);
+    Reload(application, page, refresh);
 }
 
 void ItemList::CheckRows(bool checked) {

@@ -55,7 +55,8 @@ struct ItemListShape {
     const ItemPlaces& places;
     std::span<const char* const> pictures = {};  // that the rows begin with, by their stock names
     std::span<const ItemButton> buttons;         // row after row, four in a row
-    const char* folderButton = nullptr;          // works while the file of the row exists
+    const char* refreshButton;
+    const char* folderButton = nullptr;  // works while the file of the row exists
     const char* menu;
     const char* openEntry = nullptr;  // of the menu; works while the file of the row exists
     bool searchesTheWeb = false;      // on a double click
@@ -80,6 +81,9 @@ class ItemList : public BrowserView {
     void MakeReport();
     void CheckAll() { CheckRows(true); }
     void UncheckAll() { CheckRows(false); }
+
+    // The handler, by its name, that builds the list anew on whichever page is loaded.
+    std::string RefreshHandler() const { return shape_.refreshButton + std::string("_Click"); }
 
     ListView& List() { return list_; }
     std::vector<Control*> Controls() override;
@@ -116,8 +120,6 @@ class ItemList : public BrowserView {
 
     Form& page_;
     std::vector<std::unique_ptr<Button>> buttons_;
-    // Expires with this list: a command that serves events may find its page gone.
-    std::shared_ptr<const bool> life_ = std::make_shared<const bool>(true);
 };
 
 }  // namespace velkarix

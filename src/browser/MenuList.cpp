@@ -31,6 +31,7 @@ const ItemListShape Shape = {
     .columns = {.enabled = 1, .scope = 2, .folder = 3},
     .places = MenuPlaces,
     .buttons = Buttons,
+    .refreshButton = "cmdRefreshMenu",
     .folderButton = "cmdFolderMenu",
     .menu = "mnuContext",
     .openEntry = "mnuContext_Open",

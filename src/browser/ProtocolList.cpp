@@ -47,6 +47,7 @@ const ItemListShape Shape = {
     .places = ProtocolPlaces,
     .pictures = ClassPictures,
     .buttons = Buttons,
+    .refreshButton = "cmdProtocolRefresh",
     .folderButton = "cmdProtocolFolder",
     .menu = "mnuProtocol",
     .openEntry = "mnuProtocol_Open",

@@ -45,6 +45,7 @@ const ItemListShape Shape = {
     .places = ToolbarPlaces,
     .pictures = ClassPictures,
     .buttons = Buttons,
+    .refreshButton = "cmdRefreshToolbar",
     .folderButton = "cmdFolderToolbar",
     .menu = "mnuToolbar",
     .openEntry = "mnuToolbar_Open",

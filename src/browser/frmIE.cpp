@@ -38,13 +38,6 @@ constexpr const char* AdvancedCaptions[] = {"URL Search Hooks", "Proxy Settings"
 // The one command button with the system's own look.
 constexpr const char* PlainButton = "cmdProxyApply";
 
-// Of each list's button that F5 presses while the list is shown.
-constexpr const char* RefreshHandlers[] = {
-    "cmdRefreshBHO_Click",  "cmdRefreshToolbar_Click",  "cmdRefreshButton_Click",
-    "cmdRefreshMenu_Click", "cmdProtocolRefresh_Click", "cmdDomainRefresh_Click",
-    "cmdHookRefresh_Click",
-};
-
 // The element of an indexed group of controls.
 std::string ElementName(const char* group, std::size_t index) {
     return group + ("(" + std::to_string(index) + ")");
@@ -86,7 +79,9 @@ void frmIE::MakeControls() {
     SetControls(std::move(controls));
     SetLayout(Row({Group(picButtonHolder_, std::move(strip)), std::move(views)}));
     std::vector<Accelerator> keys;
-    for (const char* handler : RefreshHandlers) keys.push_back({Key::F5, false, handler});
+    const ItemList* const lists[] = {&bhos_,      &toolbars_, &toolbarButtons_, &menus_,
+                                     &protocols_, &domains_,  &hooks_};
+    for (const ItemList* list : lists) keys.push_back({Key::F5, false, list->RefreshHandler()});
     SetAccelerators(std::move(keys));
 }
 

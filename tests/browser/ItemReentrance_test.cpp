@@ -168,6 +168,15 @@ TEST_F(ListAfterAnInterruption, ShowsWhereTheItemLies) {
     EXPECT_EQ(ColumnOf("lstvBHO", 1), RowTexts{"False"});
 }
 
+TEST_F(ListAfterAnInterruption, ShowsWhereTheItemLiesOnAPageThatWasLeftAndEnteredAgain) {
+    DisableAWhile([this] {
+        PressMain(program, "cmdOptions");
+        PressMain(program, "cmdIE");
+        EXPECT_EQ(ColumnOf("lstvBHO", 1), (RowTexts{"True", "False"}));
+    });
+    EXPECT_EQ(ColumnOf("lstvBHO", 1), RowTexts{"False"});
+}
+
 TEST_F(ListAfterAnInterruption, IsNotBuiltForAPageThatIsGone) {
     DisableAWhile([this] { program.application.forms.Unload("frmIE"); });
     const RowTexts opened = Machine().Journal().ArgumentsOf("RegOpenKeyA");
