@@ -37,7 +37,7 @@ Layout ItemList::ViewLayout() {
     constexpr int ButtonColumns = 4;
     Layout buttons = Grid(ButtonColumns, {});
     for (const auto& button : buttons_) buttons.children.push_back(Item(*button));
-    return Column({Item(list_, 1), std::move(buttons)});
+    return Column({Item(list_, 1), Row({std::move(buttons), Space()})});
 }
 
 // ---- The rows
