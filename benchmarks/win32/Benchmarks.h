@@ -1,0 +1,32 @@
+// The benchmarks on Windows. There is no benchmark library for this compiler, and nothing here
+// needs one.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace velkarix {
+
+// Prints the rate of GetFileMD5 on a file. `reference` is the seconds that `openssl md5` of the
+// same file takes on the host; with it (not 0) the two are compared. False when there is no digest.
+bool MeasureFileDigest(const std::string& path, double reference);
+
+// Prints what the browser page's list of 30,000 domains costs beside the bare registry calls, and
+// how that grows. The keys are made below a key of the benchmark's own, which is removed again.
+bool MeasureDomains();
+
+double Now();  // seconds
+
+// The median of the seconds of each piece of work, run in turn, so that a slow moment of the
+// machine hits all of them. `prepare` comes before each run and isn't counted.
+struct Work {
+    std::function<void()> run;
+    std::function<void()> prepare = {};
+};
+std::vector<double> MedianSeconds(const std::vector<Work>& works);
+
+// Prints the quotient of two times and whether it keeps within its limit.
+void PrintRatio(const std::string& what, double ratio, double limit);
+
+}  // namespace velkarix

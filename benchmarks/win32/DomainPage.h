@@ -1,0 +1,53 @@
+// The browser page's list of domains, in a program on the real machine whose windows aren't there.
+#pragma once
+
+#include <cstddef>
+
+#include "DefineForms.h"
+#include "browser/frmIE.h"
+#include "platform/win32/Win32Machine.h"
+#include "shell/Application.h"
+#include "tests/machine/RecordingDesktop.h"
+
+namespace velkarix {
+
+class DomainPage {
+  public:
+    DomainPage() {
+        DefineForms(application_);
+        application_.DisabledRoot = "Software\\Velkarix\\Disabled\\";
+        application_.forms.Show("frmIE");
+    }
+
+    void Load() { Page().LoadDomains(); }
+    void Click(const char* button) { Page().Find(button)->Raise("Click"); }
+    void CheckFirst(int count) {
+        for (int i = 0; i < count; ++i) List().Row(static_cast<std::size_t>(i)).SetChecked(true);
+    }
+    // Often, since once is too short a time.
+    void CheckAll() {
+        for (int i = 0; i < Often; ++i) Click("cmdDomainCheckAll");
+    }
+    // By the shown text, and looks at the first row, so that the sort is made.
+    void Sort() {
+        for (int i = 0; i < Often; ++i) {
+            List().UserColumnClick(1);
+            List().Row(0);
+        }
+    }
+    std::size_t RowCount() { return List().RowCount(); }
+
+    Application& Program() { return application_; }
+
+  private:
+    static constexpr int Often = 20;
+
+    frmIE& Page() { return static_cast<frmIE&>(*application_.forms.Loaded("frmIE")); }
+    ListView& List() { return dynamic_cast<ListView&>(*Page().Find("lstvDomains")); }
+
+    Win32Machine win32_;
+    RecordingDesktop desktop_;
+    Application application_{win32_.Parts(), desktop_};
+};
+
+}  // namespace velkarix
