@@ -7,9 +7,7 @@ namespace velkarix {
 
 namespace {
 
-constexpr const char* Captions[] = {
-    "Class ID",   "Enabled",      "Scope",        "Button Text",      "File Name", "Size (KB)",
-    "Created On", "Company Name", "Prodcut Name", "File Description", "Path"};
+constexpr auto Captions = WithFileCaptions({"Class ID", "Enabled", "Scope", "Button Text"});
 
 constexpr ItemButton Buttons[] = {
     {"cmdButtonDisable", "Disable Checked Button", &ItemList::DisableChecked},
@@ -22,30 +20,18 @@ constexpr ItemButton Buttons[] = {
 };
 
 // Of a row with the mark of the suspicious the first label is a longer one.
-constexpr ReportLine ReportLines[] = {
-    {"Button CLSID : ", ReportValue::ColumnWithRisk, 0, "Button CLSID      : "},
-    {"Enabled           : ", ReportValue::Column, 1},
-    {"Scope             : ", ReportValue::Column, 2},
-    {"Button Text       : ", ReportValue::Column, 3},
-    {"File Name         : ", ReportValue::Column, 4},
-    {"Size (Kb)         : ", ReportValue::Column, 5},
-    {"Created on        : ", ReportValue::Column, 6},
-    {"Company Name      : ", ReportValue::Column, 7},
-    {"Product Name      : ", ReportValue::Column, 8},
-    {"Description       : ", ReportValue::Column, 9},
-    {"Path              : ", ReportValue::Column, 10},
-};
+constexpr auto ReportLines =
+    WithFileLines({{"Button CLSID : ", ReportValue::ColumnWithRisk, 0, "Button CLSID      : "},
+                   {"Enabled           : ", ReportValue::Column, 1},
+                   {"Scope             : ", ReportValue::Column, 2},
+                   {"Button Text       : ", ReportValue::Column, 3}},
+                  4);
 
 const ItemListShape Shape = {
     .name = "lstvButtons",
     .spokenName = "Toolbar buttons",
     .captions = Captions,
-    .columns = {.enabled = 1,
-                .scope = 2,
-                .description = 3,
-                .file = 4,
-                .folder = 10,
-                .facts = {5, 6, 7, 8, 9}},
+    .columns = WithFileColumns({.enabled = 1, .scope = 2, .description = 3}, 4),
     .places = ButtonPlaces,
     .pictures = ClassPictures,
     .buttons = Buttons,

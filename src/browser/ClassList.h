@@ -2,6 +2,9 @@
 // is when an item is switched off, so that a held row shows as much as a live one.
 #pragma once
 
+#include <algorithm>
+#include <array>
+#include <iterator>
 #include <optional>
 #include <string>
 
@@ -21,6 +24,46 @@ struct ClassItem {
 
 // The picture of rows whose file gives none.
 inline constexpr const char* ClassPictures[] = {SoftwarePicture};
+
+// All these lists end with the columns of the file. Each of the functions below gives a list's own
+// beginning with that end.
+inline constexpr std::size_t FileColumnCount = 7;
+
+template <std::size_t Own>
+constexpr std::array<const char*, Own + FileColumnCount> WithFileCaptions(
+    const char* const (&own)[Own]) {
+    constexpr const char* File[] = {"File Name",    "Size (KB)",    "Created On",
+                                    "Company Name", "Prodcut Name", "File Description",
+                                    "Path"};
+    std::array<const char*, Own + FileColumnCount> all{};
+    std::copy(std::begin(own), std::end(own), all.begin());
+    std::copy(std::begin(File), std::end(File), all.begin() + Own);
+    return all;
+}
+
+// `first` is the column of the file's name.
+constexpr ItemColumns WithFileColumns(ItemColumns own, std::size_t first) {
+    own.file = first;
+    own.facts = {first + 1, first + 2, first + 3, first + 4, first + 5};
+    own.folder = first + 6;
+    return own;
+}
+
+template <std::size_t Own>
+constexpr std::array<ReportLine, Own + FileColumnCount> WithFileLines(const ReportLine (&own)[Own],
+                                                                      int first) {
+    constexpr const char* Labels[] = {
+        "File Name         : ", "Size (Kb)         : ", "Created on        : ",
+        "Company Name      : ", "Product Name      : ", "Description       : ",
+        "Path              : "};
+    std::array<ReportLine, Own + FileColumnCount> all{};
+    std::copy(std::begin(own), std::end(own), all.begin());
+    for (int i = 0; const char* label : Labels) {
+        all[Own + static_cast<std::size_t>(i)] = {label, ReportValue::Column, first + i};
+        ++i;
+    }
+    return all;
+}
 
 class ClassList : public ItemList {
   protected:

@@ -4,9 +4,7 @@ namespace velkarix {
 
 namespace {
 
-constexpr const char* Captions[] = {
-    "Class ID",   "Enabled",      "Description",  "File Name",        "Size (KB)",
-    "Created On", "Company Name", "Prodcut Name", "File Description", "Path"};
+constexpr auto Captions = WithFileCaptions({"Class ID", "Enabled", "Description"});
 
 constexpr ItemButton Buttons[] = {
     {"cmdHookDisable", "Disable Checked Hook", &ItemList::DisableChecked},
@@ -18,23 +16,16 @@ constexpr ItemButton Buttons[] = {
     {"cmdHookFolder", "Open Folder", &ItemList::OpenFolder},
 };
 
-constexpr ReportLine ReportLines[] = {
-    {"Search Hook CLSID : ", ReportValue::ColumnWithRisk, 0},
-    {"Enabled           : ", ReportValue::YesNo, 1},
-    {"File Name         : ", ReportValue::Column, 3},
-    {"Size (Kb)         : ", ReportValue::Column, 4},
-    {"Created on        : ", ReportValue::Column, 5},
-    {"Company Name      : ", ReportValue::Column, 6},
-    {"Product Name      : ", ReportValue::Column, 7},
-    {"Description       : ", ReportValue::Column, 8},
-    {"Path              : ", ReportValue::Column, 9},
-};
+constexpr auto ReportLines =
+    WithFileLines({{"Search Hook CLSID : ", ReportValue::ColumnWithRisk, 0},
+                   {"Enabled           : ", ReportValue::YesNo, 1}},
+                  3);
 
 const ItemListShape Shape = {
     .name = "lstvHook",
     .spokenName = "URL search hooks",
     .captions = Captions,
-    .columns = {.enabled = 1, .description = 2, .file = 3, .folder = 9, .facts = {4, 5, 6, 7, 8}},
+    .columns = WithFileColumns({.enabled = 1, .description = 2}, 3),
     .places = HookPlaces,
     .pictures = ClassPictures,
     .buttons = Buttons,

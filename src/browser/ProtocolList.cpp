@@ -4,9 +4,8 @@ namespace velkarix {
 
 namespace {
 
-constexpr const char* Captions[] = {
-    "Protocol",  "Class ID",   "Enabled",      "Scope",        "Description",      "File Name",
-    "Size (KB)", "Created On", "Company Name", "Prodcut Name", "File Description", "Path"};
+constexpr auto Captions =
+    WithFileCaptions({"Protocol", "Class ID", "Enabled", "Scope", "Description"});
 
 constexpr ItemButton Buttons[] = {
     {"cmdProtocolDisable", "Disable Checked Protocol", &ItemList::DisableChecked},
@@ -18,32 +17,19 @@ constexpr ItemButton Buttons[] = {
     {"cmdProtocolFolder", "Open Folder", &ItemList::OpenFolder},
 };
 
-constexpr ReportLine ReportLines[] = {
-    {"Protocol          : ", ReportValue::ColumnWithRisk, 0},
-    {"CLSID             : ", ReportValue::Column, 1},
-    {"Enabled           : ", ReportValue::YesNo, 2},
-    {"Scope             : ", ReportValue::Column, 3},
-    {"Description       : ", ReportValue::Column, 4},
-    {"File Name         : ", ReportValue::Column, 5},
-    {"Size (Kb)         : ", ReportValue::Column, 6},
-    {"Created on        : ", ReportValue::Column, 7},
-    {"Company Name      : ", ReportValue::Column, 8},
-    {"Product Name      : ", ReportValue::Column, 9},
-    {"Description       : ", ReportValue::Column, 10},
-    {"Path              : ", ReportValue::Column, 11},
-};
+constexpr auto ReportLines =
+    WithFileLines({{"Protocol          : ", ReportValue::ColumnWithRisk, 0},
+                   {"CLSID             : ", ReportValue::Column, 1},
+                   {"Enabled           : ", ReportValue::YesNo, 2},
+                   {"Scope             : ", ReportValue::Column, 3},
+                   {"Description       : ", ReportValue::Column, 4}},
+                  5);
 
 const ItemListShape Shape = {
     .name = "lstvProtocol",
     .spokenName = "Protocols",
     .captions = Captions,
-    .columns = {.enabled = 2,
-                .scope = 3,
-                .clsid = 1,
-                .description = 4,
-                .file = 5,
-                .folder = 11,
-                .facts = {6, 7, 8, 9, 10}},
+    .columns = WithFileColumns({.enabled = 2, .scope = 3, .clsid = 1, .description = 4}, 5),
     .places = ProtocolPlaces,
     .pictures = ClassPictures,
     .buttons = Buttons,

@@ -4,9 +4,7 @@ namespace velkarix {
 
 namespace {
 
-constexpr const char* Captions[] = {
-    "Class ID",   "Enabled",      "Scope",        "Description",      "File Name", "Size (KB)",
-    "Created On", "Company Name", "Prodcut Name", "File Description", "Path"};
+constexpr auto Captions = WithFileCaptions({"Class ID", "Enabled", "Scope", "Description"});
 
 constexpr ItemButton Buttons[] = {
     {"cmdToolbarDisable", "Disable Checked Toolbar", &ItemList::DisableChecked},
@@ -18,30 +16,18 @@ constexpr ItemButton Buttons[] = {
     {"cmdFolderToolbar", "Open Folder", &ItemList::OpenFolder},
 };
 
-constexpr ReportLine ReportLines[] = {
-    {"Toolbar CLSID     : ", ReportValue::ColumnWithRisk, 0},
-    {"Enabled           : ", ReportValue::Column, 1},
-    {"Scope             : ", ReportValue::Column, 2},
-    {"Description       : ", ReportValue::Column, 3},
-    {"File Name         : ", ReportValue::Column, 4},
-    {"Size (Kb)         : ", ReportValue::Column, 5},
-    {"Created on        : ", ReportValue::Column, 6},
-    {"Company Name      : ", ReportValue::Column, 7},
-    {"Product Name      : ", ReportValue::Column, 8},
-    {"Description       : ", ReportValue::Column, 9},
-    {"Path              : ", ReportValue::Column, 10},
-};
+constexpr auto ReportLines =
+    WithFileLines({{"Toolbar CLSID     : ", ReportValue::ColumnWithRisk, 0},
+                   {"Enabled           : ", ReportValue::Column, 1},
+                   {"Scope             : ", ReportValue::Column, 2},
+                   {"Description       : ", ReportValue::Column, 3}},
+                  4);
 
 const ItemListShape Shape = {
     .name = "lstvToolbar",
     .spokenName = "Toolbars",
     .captions = Captions,
-    .columns = {.enabled = 1,
-                .scope = 2,
-                .description = 3,
-                .file = 4,
-                .folder = 10,
-                .facts = {5, 6, 7, 8, 9}},
+    .columns = WithFileColumns({.enabled = 1, .scope = 2, .description = 3}, 4),
     .places = ToolbarPlaces,
     .pictures = ClassPictures,
     .buttons = Buttons,
