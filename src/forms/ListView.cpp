@@ -39,6 +39,7 @@ ListView::ListView(std::string name, std::string text, std::vector<std::string> 
                    Handlers handlers)
     : Control(std::move(name), std::move(text)),
       columns_(std::move(columns)),
+      columnShares_(columns_.size(), 1),
       handlers_(std::move(handlers)) {}
 
 ListRow& ListView::Add(std::string key, std::string text, std::size_t image) {

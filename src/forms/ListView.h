@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/Color.h"
@@ -71,6 +72,10 @@ class ListView : public Control {
     // shown.
     bool CheckBoxes() const { return checkBoxes_; }
     void SetCheckBoxes(bool checkBoxes) { checkBoxes_ = checkBoxes; }
+    // The shares of the list's width that its columns have until they are fitted; equal ones at
+    // first. Said before the list is shown.
+    const std::vector<int>& ColumnShares() const { return columnShares_; }
+    void SetColumnShares(std::vector<int> shares) { columnShares_ = std::move(shares); }
 
     // The new row stands last, or at its place when the list is sorted. It lives until it is
     // removed or the list is cleared.
@@ -114,6 +119,7 @@ class ListView : public Control {
     void PutInOrder();
 
     std::vector<std::string> columns_;
+    std::vector<int> columnShares_;
     Handlers handlers_;
     std::vector<std::unique_ptr<ListRow>> rows_;
     ListRow* selected_ = nullptr;

@@ -40,6 +40,12 @@ class ListViewTest : public testing::Test {
                    }}};
 };
 
+TEST_F(ListViewTest, GivesEachColumnTheSameShareUntilItIsTold) {
+    EXPECT_EQ(list.ColumnShares(), (std::vector<int>{1, 1}));
+    list.SetColumnShares({3, 1});
+    EXPECT_EQ(list.ColumnShares(), (std::vector<int>{3, 1}));
+}
+
 TEST_F(ListViewTest, KeepsTheOrderThatRowsCameInUntilItIsSorted) {
     AddThree();
     EXPECT_EQ(Order(), "beta Alpha gamma ");

@@ -67,8 +67,11 @@ int InsideWidth(HWND list) {
 void InsertColumns(HWND list, const ListView& model) {
     LVCOLUMNA column{};
     column.mask = LVCF_TEXT | LVCF_SUBITEM | LVCF_WIDTH;
-    column.cx = InsideWidth(list) / static_cast<int>(model.Columns().size());
+    const std::vector<int>& shares = model.ColumnShares();
+    const int whole = std::accumulate(shares.begin(), shares.end(), 0);
     for (std::string caption : model.Columns()) {
+        const int share = shares.at(static_cast<std::size_t>(column.iSubItem));
+        column.cx = InsideWidth(list) * share / whole;
         column.pszText = caption.data();
         SendMessageA(list, LVM_INSERTCOLUMNA, static_cast<WPARAM>(column.iSubItem),
                      reinterpret_cast<LPARAM>(&column));

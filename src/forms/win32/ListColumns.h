@@ -6,7 +6,7 @@
 
 namespace velkarix {
 
-// Makes the columns, all of one width for as long as there is nothing to fit to.
+// Makes the columns, with their shares of the width for as long as there is nothing to fit to.
 void InsertColumns(HWND list, const ListView& model);
 // Fits the columns to their headers and to all rows of the model.
 void FitColumns(HWND list, ListView& model, const DesktopContext& context);

@@ -37,6 +37,7 @@ class PageOfAll : public Form {
           box("txtAll", "Text", {20, 1, false}),
           act("cmdAct", "Act", [&calls] { calls.push_back("act"); }),
           leave("cmdLeave", "Leave", [&whenLeft] { whenLeft(); }) {
+        list.SetColumnShares({3, 1});
         SetControls({&list, &frame, &options.Option(0), &options.Option(1), &box, &act, &leave});
         SetAccelerators({{Key::F5, false, "cmdAct_Click"}});
         SetLayout(Column({Item(list, 1),

@@ -257,6 +257,13 @@ TEST_F(NativeListTest, ThousandsOfChangesAreOneRepaint) {
     EXPECT_LE(clearing.Times(WM_PAINT), 2);
 }
 
+TEST_F(NativeListTest, ColumnsHaveTheirSharesUntilTheyAreFitted) {
+    const LRESULT name = SendMessageA(List(), LVM_GETCOLUMNWIDTH, 0, 0);
+    const LRESULT number = SendMessageA(List(), LVM_GETCOLUMNWIDTH, 1, 0);
+    EXPECT_GT(number, 10);
+    EXPECT_NEAR(static_cast<double>(name), 3.0 * static_cast<double>(number), 3.0);
+}
+
 TEST_F(NativeListTest, ColumnsFitTheWidestRowAlsoOutOfSight) {
     for (int i = 0; i < 500; ++i) page->list.Add("K" + std::to_string(i), "short", 1);
     page->list.FitColumns();
