@@ -27,6 +27,7 @@ ChoiceEditor::ChoiceEditor(Application& application, const ChoiceEditorTexts& te
              [this] { ComboClick(); }),
       button_(texts.button, "Apply", [this] { ButtonClick(); }) {
     list_.SetCheckBoxes(false);
+    list_.SetColumnShares({2, 1});
     button_.SetEnabled(false);
 }
 

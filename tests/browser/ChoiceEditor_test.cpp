@@ -57,6 +57,7 @@ class ChoiceEditorTest : public ViewTest<EditorView> {
 TEST_F(ChoiceEditorTest, NamesItsControlsAndHasNothingToTick) {
     EXPECT_EQ(TabOrder(), (std::vector<std::string>{"lstvTest", "txtTest", "cmbTest", "cmdTest"}));
     EXPECT_EQ(List().Columns(), (std::vector<std::string>{"Thing", "Colour"}));
+    EXPECT_EQ(List().ColumnShares(), (std::vector<int>{2, 1}));
     EXPECT_FALSE(List().CheckBoxes());
     EXPECT_TRUE(Get<TextBox>("txtTest").BoxShape().readOnly);
     EXPECT_EQ(page.Find("cmdTest")->Text(), "Apply");
