@@ -27,9 +27,9 @@ class InsideHook {
     InsideHook(const InsideHook&) = delete;
     InsideHook& operator=(const InsideHook&) = delete;
 
-    std::string Ask(const Window& window, const char* question) const {
+    std::string Ask(const Window& window, const char* question, int number) const {
         if (hook_ == nullptr || memory_ == nullptr) return "";
-        window.Send(RegisterWindowMessageA(question));
+        window.Send(RegisterWindowMessageA(question), static_cast<WPARAM>(number));
         return memory_;
     }
 
@@ -45,8 +45,8 @@ class InsideHook {
 
 }  // namespace
 
-std::string AskInside(const Window& window, const char* question) {
-    return InsideHook(window.Thread()).Ask(window, question);
+std::string AskInside(const Window& window, const char* question, int number) {
+    return InsideHook(window.Thread()).Ask(window, question, number);
 }
 
 }  // namespace velkarix::e2e

@@ -9,6 +9,6 @@
 namespace velkarix::e2e {
 
 // Puts a question of hook/Inside.h to a window of the program. Empty when there is no answer.
-std::string AskInside(const Window& window, const char* question);
+std::string AskInside(const Window& window, const char* question, int number = 0);
 
 }  // namespace velkarix::e2e

@@ -11,6 +11,7 @@ std::ostream& operator<<(std::ostream& stream, const BrowserPlace& place) {
 }
 
 BrowserTest::~BrowserTest() {
+    EndProgram();  // it may be in the middle of something where a test failed
     for (const auto& [place, tree] : before_) RestoreTree(place.hive, place.path, tree);
 }
 

@@ -18,6 +18,7 @@ class ProgramTest : public testing::Test {
 
     // Starts the program and waits until its first page stands.
     Program& Start();
+    void EndProgram() { program_.reset(); }
     bool HasStarted() const { return program_.has_value(); }
     // The program that Start started.
     Program& Running() { return *program_; }

@@ -9,6 +9,10 @@ inline constexpr const char* ReadMenuQuestion = "Velkarix.Test.ReadMenu";
 inline constexpr const char* CountUserObjectsQuestion = "Velkarix.Test.CountUserObjects";
 inline constexpr const char* CutTextsQuestion = "Velkarix.Test.CutTexts";
 
+// With a number: see EndAtChange.h. The answer is empty where it can't be done.
+inline constexpr const char* EndAtChangeQuestion = "Velkarix.Test.EndAtChange";
+inline constexpr unsigned EndedAtChange = 77;  // the exit code of a program that was ended so
+
 inline constexpr const char* AnswerMemoryName = "Velkarix.Test.Answer";
 inline constexpr int AnswerMemorySize = 16384;
 inline constexpr const char* PopupMenuClass = "#32768";

@@ -1,11 +1,13 @@
 // Runs inside the program under test and answers what can't be seen from outside: the items of
-// its menus, how many windows, menus and icons it has, and which texts don't fit their place.
+// its menus, how many windows, menus and icons it has, and which texts don't fit their place. Ends
+// the program where it is asked to.
 #include <windows.h>
 
 #include <cstdint>
 #include <cstdio>
 #include <string>
 
+#include "EndAtChange.h"
 #include "Inside.h"
 
 namespace {
@@ -140,11 +142,15 @@ extern "C" __declspec(dllexport) LRESULT CALLBACK
     static const UINT readMenu = RegisterWindowMessageA(ReadMenuQuestion);
     static const UINT countUserObjects = RegisterWindowMessageA(CountUserObjectsQuestion);
     static const UINT cutTexts = RegisterWindowMessageA(CutTextsQuestion);
+    static const UINT endAtChange = RegisterWindowMessageA(EndAtChangeQuestion);
     if (code == HC_ACTION) {
         const auto* sent = reinterpret_cast<const CWPSTRUCT*>(lParam);
         if (sent->message == readMenu) Answer(DescribeMenu(sent->hwnd));
         if (sent->message == countUserObjects) Answer(CountUserObjects());
         if (sent->message == cutTexts) Answer(CutTexts(sent->hwnd));
+        if (sent->message == endAtChange) {
+            Answer(EndAtChange(static_cast<int>(sent->wParam)) ? "ready" : "");
+        }
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
