@@ -32,6 +32,15 @@ class BrowserPageLists : public BrowserTest {
         const std::vector<RowTexts> rows = list.Rows();
         return static_cast<int>(std::ranges::find(rows, texts) - rows.begin());
     }
+    // Of a program that is started for it.
+    int RedPixelsOfTheSuspect() {
+        OpenBrowser();
+        const ListWindow list = Show(BHOs);
+        SelectRow(list, 0);
+        const RECT label = list.LabelArea(list.Find(Clsid("0B100002")).value_or(0));
+        WaitUntil([&] { return CountPixels(label, IsReddish) > 0; });
+        return CountPixels(label, IsReddish);
+    }
 };
 
 class EverySystemBrowserPageLists : public BrowserPageLists {};
@@ -74,6 +83,27 @@ TEST_F(BrowserPageLists, TheColoursTellWhatIsSuspiciousAndWhatIsDisabled) {
                 << TextColor(label) << " instead of " << color;
         }
     }
+}
+
+TEST_F(BrowserPageLists, SuspiciousRowsAreBoldUnlessTheSettingsSayOtherwise) {
+    const int bold = RedPixelsOfTheSuspect();
+    ASSERT_GT(bold, 0);
+    WritePrivateProfileStringA("Main", "FontBold", "0", install_.Path("Settings.ini").c_str());
+    const int plain = RedPixelsOfTheSuspect();
+    EXPECT_GT(plain, 0);
+    EXPECT_LT(plain, bold);
+}
+
+TEST_F(BrowserPageLists, AClassIsKnownByItsLettersInLowerCaseAlone) {
+    install_.Write("SusCLSID.vkl", Clsid("0B1000C3") + "\r\n");
+    OpenBrowser();
+    const ListWindow list = Show(BHOs);
+    SelectRow(list, 0);
+    EXPECT_TRUE(WaitUntil([&] {
+        return TextColor(list.LabelArea(*list.Find(Clsid("0B100002")))) ==
+               ColorOf(Mark::Suspicious);
+    }));
+    EXPECT_EQ(TextColor(list.LabelArea(*list.Find(Clsid("0B1000C3")))), ColorOf(Mark::None));
 }
 
 TEST_F(BrowserPageLists, RefreshDropsTicksAndSelection) {

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "BrowserItems.h"
 #include "ObjectCounts.h"
 #include "ProgramTest.h"
 #include "Wait.h"
@@ -78,6 +79,23 @@ TEST_F(Resources, AHundredRefreshesLeaveTheCountsWhereTheyWere) {
     refresh(10);
     const ObjectCounts before = Count();
     refresh(100);
+    ExpectNoMoreThan(before);
+}
+
+TEST_F(Resources, ListsOfTheBrowserThatAreFilledAgainLeaveTheCountsWhereTheyWere) {
+    Start();
+    ASSERT_TRUE(Running().Press("cmdIE"));
+    const auto refresh = [this](int times) {
+        for (int i = 0; i < times; ++i) {
+            for (const BrowserList* each : BrowserLists) {
+                ASSERT_TRUE(Running().Press(each->strip));
+                ASSERT_TRUE(Running().Press(each->refresh));
+            }
+        }
+    };
+    refresh(3);
+    const ObjectCounts before = Count();
+    refresh(20);
     ExpectNoMoreThan(before);
 }
 
