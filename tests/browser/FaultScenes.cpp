@@ -89,6 +89,7 @@ BrowserFault Moving(const ListCase& list, ItemAction action, const Circumstances
                 std::vector<FaultItem> items;
                 Become(machine, on);
                 PutHardItems(machine, list, enabled, group, items);
+                if (group != 0) return items;
                 PutHalfMoved(machine, list, enabled, items);
                 PutNamesakes(machine, list, enabled, items);
                 PutBystanders(machine, list, enabled, items);

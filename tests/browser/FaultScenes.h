@@ -24,9 +24,9 @@ inline constexpr Circumstances AllCircumstances[] = {
 
 void Become(MemoryMachine& machine, const Circumstances& circumstances);
 
-// Hard items in each place of the list, one that was half moved before, two namesakes, and items
-// that don't take part. Of a list of values, the hard ones of this group: a call in trouble costs a
-// move of all that are there.
+// Hard items in each place of the list; with the first group of them also an item that was half
+// moved before, two namesakes, and items that don't take part. A list of values has several groups:
+// a call in trouble costs a move of all that are there.
 BrowserFault Moving(const ListCase& list, ItemAction action, const Circumstances& on,
                     std::size_t group);
 std::size_t GroupsOf(const ListCase& list);

@@ -28,7 +28,7 @@ struct FaultCommand {
     // wrong there; an empty text is all well. May change the machine and start the program on it.
     std::function<std::string(MemoryMachine&)> examine;
     // Picks the calls that are put in trouble, by their numbers, out of those that the command
-    // makes by itself; all of them without it.
+    // makes by itself; without it, all of them up to the last that may change something.
     std::function<std::vector<std::size_t>(const std::vector<Call>&)> pick = {};
 };
 
