@@ -53,6 +53,16 @@ TEST_P(ItemListTest, ShowsAllLiveItemsBeforeTheHeldOnesEachInTheOrderOfTheRegist
     EXPECT_EQ(Column(TheCase().enabled), (RowTexts{"True", "True", "False", "False"}));
 }
 
+// Its row would stand for the key of all items, and a deletion would take them all away.
+TEST_P(ItemListTest, PassesOverAnItemWhoseNameBeginsWithANul) {
+    using namespace std::string_literals;
+    PutLive("\0hidden"s);
+    PutHeld("\0hidden"s);
+    PutLive(ClassA);
+    Open();
+    EXPECT_EQ(Names(), RowTexts{ClassA});
+}
+
 TEST_P(ItemListTest, LooksForItemsInNoOtherHive) {
     RegisterClass(ClassA, "C:\\gone.dll");
     const auto isPlaceHive = [&](Hive hive) {
