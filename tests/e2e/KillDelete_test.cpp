@@ -97,7 +97,7 @@ TEST_F(KillDelete, NoKeepsTheProgramRunning) {
     EXPECT_TRUE(TargetRuns());
     EXPECT_TRUE(install_.Exists(Target));
     EXPECT_TRUE(BackupFiles().empty());
-    EXPECT_EQ(List().RowCount(), static_cast<int>(rows.size()));
+    EXPECT_EQ(List().Rows(), rows);
 }
 
 TEST_F(KillDelete, KillingAProgramThatHasEndedIsTold) {

@@ -44,6 +44,7 @@ class ProgramTest : public testing::Test {
 
   private:
     std::optional<Program> program_;
+    bool aside_ = false;
 };
 
 }  // namespace velkarix::e2e
