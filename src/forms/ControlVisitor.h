@@ -17,6 +17,7 @@ class Panel;
 class PictureBox;
 class TabStrip;
 class TextBox;
+class TreeView;
 
 class ControlVisitor {
   public:
@@ -35,6 +36,7 @@ class ControlVisitor {
     virtual void Visit(PictureBox& control) = 0;
     virtual void Visit(TabStrip& control) = 0;
     virtual void Visit(TextBox& control) = 0;
+    virtual void Visit(TreeView& control) = 0;
 };
 
 }  // namespace velkarix

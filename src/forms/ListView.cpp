@@ -9,8 +9,8 @@
 namespace velkarix {
 
 ListRow::ListRow(ListView& list, std::string key, std::string text, std::size_t image,
-                 std::size_t columns)
-    : list_(list), key_(std::move(key)), texts_(columns), image_(image) {
+                 std::size_t largeImage, std::size_t columns)
+    : list_(list), key_(std::move(key)), texts_(columns), image_(image), largeImage_(largeImage) {
     texts_.at(0) = std::move(text);
 }
 
@@ -42,9 +42,10 @@ ListView::ListView(std::string name, std::string text, std::vector<std::string> 
       columnShares_(columns_.size(), 1),
       handlers_(std::move(handlers)) {}
 
-ListRow& ListView::Add(std::string key, std::string text, std::size_t image) {
-    rows_.push_back(
-        std::make_unique<ListRow>(*this, std::move(key), std::move(text), image, columns_.size()));
+ListRow& ListView::Add(std::string key, std::string text, std::size_t image,
+                       std::size_t largeImage) {
+    rows_.push_back(std::make_unique<ListRow>(*this, std::move(key), std::move(text), image,
+                                              largeImage, columns_.size()));
     rows_.back()->position_ = rows_.size() - 1;
     inOrder_ = inOrder_ && !sorted_;
     Notify(Aspect::Rows);
@@ -111,6 +112,16 @@ void ListView::PutInOrder() {
 void ListView::SetImages(const ImageList* images) {
     images_ = images;
     Notify(Aspect::RowState);
+}
+
+void ListView::SetLargeImages(const ImageList* images) {
+    largeImages_ = images;
+    Notify(Aspect::RowState);
+}
+
+void ListView::SetMode(ListMode mode) {
+    mode_ = mode;
+    Notify(Aspect::Look);
 }
 
 void ListView::UserSelect(ListRow* row) {

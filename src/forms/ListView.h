@@ -21,17 +21,19 @@ class ListView;
 
 enum class MouseButton { Left = 1, Right = 2 };
 enum class SortOrder { Ascending, Descending };
+enum class ListMode { Details, Icons };  // icons are large and show column 0 alone
 
 class ListRow {
   public:
     ListRow(ListView& list, std::string key, std::string text, std::size_t image,
-            std::size_t columns);
+            std::size_t largeImage, std::size_t columns);
 
     const std::string& Key() const { return key_; }
     // The text of a column; column 0 is the row's text.
     const std::string& Text(std::size_t column) const { return texts_.at(column); }
     void SetText(std::size_t column, std::string text);
-    std::size_t Image() const { return image_; }  // from 1
+    std::size_t Image() const { return image_; }            // from 1
+    std::size_t LargeImage() const { return largeImage_; }  // from 1
     bool Checked() const { return checked_; }
     void SetChecked(bool checked);
     // The colour of the row's text in column 0; nothing is the list's own colour.
@@ -46,6 +48,7 @@ class ListRow {
     std::string key_;
     std::vector<std::string> texts_;
     std::size_t image_;
+    std::size_t largeImage_;
     std::size_t position_ = 0;
     std::optional<Color> textColor_;
     bool checked_ = false;
@@ -79,7 +82,7 @@ class ListView : public Control {
 
     // The new row stands last, or at its place when the list is sorted. It lives until it is
     // removed or the list is cleared.
-    ListRow& Add(std::string key, std::string text, std::size_t image);
+    ListRow& Add(std::string key, std::string text, std::size_t image, std::size_t largeImage = 1);
     void Remove(ListRow& row);
     void Clear();
     std::size_t RowCount() const { return rows_.size(); }
@@ -102,6 +105,14 @@ class ListView : public Control {
     // The pictures of the rows; null detaches. The list doesn't own them.
     const ImageList* Images() const { return images_; }
     void SetImages(const ImageList* images);
+
+    // The pictures that rows show in the mode of icons; null: none.
+    const ImageList* LargeImages() const { return largeImages_; }
+    void SetLargeImages(const ImageList* images);
+
+    // Details at first.
+    ListMode Mode() const { return mode_; }
+    void SetMode(ListMode mode);
 
     // Fits all columns to their headers and contents.
     void FitColumns() { Notify(Aspect::ColumnWidths); }
@@ -129,6 +140,8 @@ class ListView : public Control {
     bool checkBoxes_ = true;
     bool inOrder_ = true;
     const ImageList* images_ = nullptr;
+    const ImageList* largeImages_ = nullptr;
+    ListMode mode_ = ListMode::Details;
 };
 
 }  // namespace velkarix
