@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "browser/frmIE.h"
+#include "installed/frmAddRemove.h"
 #include "options/frmOptions.h"
 #include "process/VerdictCache.h"
 #include "process/frmProcess.h"
@@ -11,6 +12,7 @@
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 #include "shell/frmviewInfo.h"
+#include "startup/frmStartup.h"
 
 namespace velkarix {
 
@@ -27,8 +29,6 @@ struct ToCome {
     const char* what;
 };
 const ToCome PagesToCome[] = {
-    {"frmStartup", "Startup"},
-    {"frmAddRemove", "Add/Remove"},
     {"frmUtilities", "Utilities"},
 };
 
@@ -38,6 +38,7 @@ void DefineForms(Application& application) {
     DefineForm<frmMain>(application, "frmMain");
     DefineForm<frmAbout>(application, "frmAbout");
     DefineForm<frmIE>(application, "frmIE");
+    DefineForm<frmAddRemove>(application, "frmAddRemove");
     DefineForm<frmOptions>(application, "frmOptions");
     DefineForm<frmviewInfo>(application, "frmviewInfo");
     // The cache lives as long as the program: a page that is left and entered hashes nothing again.
@@ -45,6 +46,10 @@ void DefineForms(Application& application) {
                              [&application, cache = std::make_shared<VerdictCache>()] {
                                  return std::make_unique<frmProcess>(application, *cache);
                              });
+    // The user is told once that shortcuts can't be read, not each time that the page is entered.
+    application.forms.Define("frmStartup", [&application, told = std::make_shared<bool>(false)] {
+        return std::make_unique<frmStartup>(application, *told);
+    });
     for (const ToCome& page : PagesToCome) {
         application.forms.Define(
             page.name, [page] { return std::make_unique<PageToCome>(page.name, page.what); });

@@ -28,7 +28,7 @@ void ClassList::AddClassRow(const ItemPlace& place, const ClassItem& item, bool 
     row.SetText(columns.description, item.description);
     row.SetText(columns.file, FileNameOf(item.path));
     row.SetText(columns.folder, FolderOf(item.path));
-    if (exists) ShowFileFacts(machine, row, columns.facts, item.path);
+    if (exists) ShowFileFacts(row, columns.facts, ReadFileFacts(machine, item.path));
     MarkRow(application_.appearance, row, enabled, suspicious);
 }
 

@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/Text.h"
 #include "browser/ItemList.h"
+#include "shell/DeleteItem.h"
 #include "shell/FilePaths.h"
 #include "shell/ItemChange.h"
 #include "shell/ListServices.h"
@@ -45,13 +45,7 @@ void ItemList::DeleteSelected() {
     const ListRow* row = list_.SelectedRow();
     if (!change.Begun() || row == nullptr) return;
     const BrowserItem item = ItemOf(*row);
-    const std::string question =
-        "Are you sure you want to delete the selected item: " + std::string(LineBreak) +
-        std::string(LineBreak) + row->Text(0);
-    if (application_.Tell(MessageIcon::Question, question, MessageButtons::YesNo) !=
-        MessageAnswer::Yes) {
-        return;
-    }
+    if (!ConfirmDelete(application_, row->Text(0))) return;
     Application& application = application_;
     const std::string page = page_.Name();
     const std::string refresh = RefreshHandler();

@@ -78,7 +78,7 @@ std::vector<std::string> ItemList::NamesIn(const ItemPlace& place, const std::st
 ListRow& ItemList::AddItemRow(const ItemPlace& place, const std::string& name, std::size_t image,
                               bool enabled) {
     ListRow& row = list_.Add(name, name, image);
-    row.SetText(shape_.columns.enabled, enabled ? EnabledText : DisabledText);
+    row.SetText(shape_.columns.enabled, EnabledText(enabled));
     if (shape_.columns.scope != NoColumn) row.SetText(shape_.columns.scope, place.scope);
     return row;
 }
@@ -86,7 +86,7 @@ ListRow& ItemList::AddItemRow(const ItemPlace& place, const std::string& name, s
 BrowserItem ItemList::ItemOf(const ListRow& row) const {
     const std::size_t scope = shape_.columns.scope;
     return {&PlaceOfScope(shape_.places, scope == NoColumn ? "" : row.Text(scope)), row.Key(),
-            row.Text(shape_.columns.enabled) == EnabledText};
+            row.Text(shape_.columns.enabled) == EnabledText(true)};
 }
 
 std::string ItemList::PathOf(const ListRow& row) const {

@@ -11,10 +11,6 @@
 
 namespace velkarix {
 
-// The words of a list's column that tells whether an item is on.
-inline constexpr const char* EnabledText = "True";
-inline constexpr const char* DisabledText = "False";
-
 struct ItemPlace {
     const char* scope;  // as the list's scope column says it; empty for a list without one
     Hive hive;

@@ -116,10 +116,8 @@ void ColorBox::Accept(ControlVisitor& visitor) {
     visitor.Visit(*this);
 }
 
-OptionButton::OptionButton(OptionGroup& group, int index, std::string text)
-    : Control(group.Name() + "(" + std::to_string(index) + ")", std::move(text)),
-      group_(group),
-      index_(index) {}
+OptionButton::OptionButton(OptionGroup& group, int index, std::string name, std::string text)
+    : Control(std::move(name), std::move(text)), group_(group), index_(index) {}
 
 bool OptionButton::Chosen() const {
     return group_.Chosen() == index_;
@@ -135,12 +133,29 @@ void OptionButton::Accept(ControlVisitor& visitor) {
     visitor.Visit(*this);
 }
 
-OptionGroup::OptionGroup(std::string name, std::vector<std::string> captions, int chosen,
-                         Handler onClick)
-    : name_(std::move(name)), chosen_(chosen), onClick_(std::move(onClick)) {
-    for (std::string& caption : captions) {
+namespace {
+
+std::vector<OptionGroup::Entry> IndexedOptions(const std::string& group,
+                                               const std::vector<std::string>& captions) {
+    std::vector<OptionGroup::Entry> options;
+    for (std::size_t i = 0; i < captions.size(); ++i) {
+        options.push_back({group + "(" + std::to_string(i) + ")", captions[i]});
+    }
+    return options;
+}
+
+}  // namespace
+
+OptionGroup::OptionGroup(const std::string& name, const std::vector<std::string>& captions,
+                         int chosen, Handler onClick)
+    : OptionGroup(IndexedOptions(name, captions), chosen, std::move(onClick)) {}
+
+OptionGroup::OptionGroup(std::vector<Entry> options, int chosen, Handler onClick)
+    : chosen_(chosen), onClick_(std::move(onClick)) {
+    for (Entry& option : options) {
         const int index = static_cast<int>(options_.size());
-        options_.push_back(std::make_unique<OptionButton>(*this, index, std::move(caption)));
+        options_.push_back(std::make_unique<OptionButton>(*this, index, std::move(option.name),
+                                                          std::move(option.caption)));
     }
 }
 

@@ -134,10 +134,10 @@ class ColorBox : public Control {
 
 class OptionGroup;
 
-// One of a group of options, named "group(index)".
+// One of a group of options.
 class OptionButton : public Control {
   public:
-    OptionButton(OptionGroup& group, int index, std::string text);
+    OptionButton(OptionGroup& group, int index, std::string name, std::string text);
     const OptionGroup& Group() const { return group_; }
     int Index() const { return index_; }
     bool Chosen() const;
@@ -153,16 +153,21 @@ class OptionButton : public Control {
 // Options of which exactly one is chosen.
 class OptionGroup {
   public:
-    // `captions` in the order of the indices from 0. `onClick` hears of choices by the user.
-    OptionGroup(std::string name, std::vector<std::string> captions, int chosen, Handler onClick);
-    const std::string& Name() const { return name_; }
+    struct Entry {
+        std::string name;
+        std::string caption;
+    };
+    // `options` in the order of the indices from 0. `onClick` hears of choices by the user.
+    OptionGroup(std::vector<Entry> options, int chosen, Handler onClick);
+    // The options of an indexed group are named "group(0)" and so on.
+    OptionGroup(const std::string& name, const std::vector<std::string>& captions, int chosen,
+                Handler onClick);
     OptionButton& Option(int index) { return *options_.at(static_cast<std::size_t>(index)); }
     int Chosen() const { return chosen_; }
     void Choose(int index);  // by the program: no handler runs
 
   private:
     friend class OptionButton;
-    std::string name_;
     int chosen_;
     Handler onClick_;
     std::vector<std::unique_ptr<OptionButton>> options_;

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "platform/Errors.h"
 
@@ -38,6 +39,8 @@ class SystemFacts {
     // doesn't fit `capacity` bytes.
     virtual std::optional<std::string> ExpandEnvironmentStringsA(const std::string& text,
                                                                  std::uint32_t capacity) = 0;
+    // UTF-16 text in the system's code page; a character that this lacks becomes its default one.
+    virtual std::string WideCharToMultiByte(std::u16string_view text) = 0;
     // The full path of the program file of this process.
     virtual std::string GetModuleFileNameA() = 0;
 };

@@ -55,7 +55,7 @@ void frmProcess::AddProcessRow(const std::string& path, const std::string& name,
         exists ? AddFileIcon(application_.machine.shell, imglProcess_, path) : DefaultImage;
     ListRow& row = lstvProcess_.Add(key, name, image);
     row.SetText(processColumn::Folder, FolderOf(path));
-    if (exists) ShowFileFacts(application_.machine, row, FactColumns, path);
+    if (exists) ShowFileFacts(row, FactColumns, ReadFileFacts(application_.machine, path));
     MarkRow(application_.appearance, row, true, suspicious);
 }
 

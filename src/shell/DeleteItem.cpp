@@ -1,5 +1,6 @@
 #include "shell/DeleteItem.h"
 
+#include "base/Text.h"
 #include "registry/RegistryFile.h"
 #include "shell/RegistryBackup.h"
 #include "shell/Relocation.h"
@@ -15,6 +16,14 @@ bool BackUpItem(Application& application, const std::string& listName, ErrorCode
 }
 
 }  // namespace
+
+bool ConfirmDelete(Application& application, const std::string& text) {
+    const std::string question =
+        "Are you sure you want to delete the selected item: " + std::string(LineBreak) +
+        std::string(LineBreak) + text;
+    return application.Tell(MessageIcon::Question, question, MessageButtons::YesNo) ==
+           MessageAnswer::Yes;
+}
 
 void DeleteItemKey(Application& application, const std::string& listName, Hive hive,
                    const std::string& key) {

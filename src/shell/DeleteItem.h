@@ -8,6 +8,9 @@
 
 namespace velkarix {
 
+// Asks the user whether the item with that text is to go.
+bool ConfirmDelete(Application& application, const std::string& text);
+
 // `listName` names the file for the list that the item is in.
 void DeleteItemKey(Application& application, const std::string& listName, Hive hive,
                    const std::string& key);

@@ -22,17 +22,19 @@ std::size_t AddFileIcon(Shell& shell, ImageList& images, const std::string& path
     return icon ? images.Add(std::move(*icon)) : DefaultImage;
 }
 
-void ShowFileFacts(const Machine& machine, ListRow& row, const FileColumns& columns,
-                   const std::string& path) {
-    // The facts' numbers are those of clsProcess.
-    const std::pair<std::size_t, int> facts[] = {{columns.created, 12},
-                                                 {columns.company, 7},
-                                                 {columns.product, 0},
-                                                 {columns.description, 2}};
+FileFacts ReadFileFacts(const Machine& machine, const std::string& path) {
     clsProcess file(machine);
     file.GetFileDescription(path);
-    row.SetText(columns.size, FileSizeText(machine.files, path));
-    for (const auto& [column, fact] : facts) row.SetText(column, file.getItem(fact));
+    return {FileSizeText(machine.files, path), file.getItem(12), file.getItem(7), file.getItem(0),
+            file.getItem(2)};
+}
+
+void ShowFileFacts(ListRow& row, const FileColumns& columns, const FileFacts& facts) {
+    row.SetText(columns.size, facts.size);
+    row.SetText(columns.created, facts.created);
+    row.SetText(columns.company, facts.company);
+    row.SetText(columns.product, facts.product);
+    row.SetText(columns.description, facts.description);
 }
 
 }  // namespace velkarix

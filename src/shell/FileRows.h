@@ -31,8 +31,16 @@ void ClearRows(ListView& list, ImageList& images, std::span<const char* const> s
 // Adds the file's small icon at `index`. Gives the image, which is the default one when there is
 // no such icon.
 std::size_t AddFileIcon(Shell& shell, ImageList& images, const std::string& path, int index = 0);
-// Fills the columns; what can't be read is empty.
-void ShowFileFacts(const Machine& machine, ListRow& row, const FileColumns& columns,
-                   const std::string& path);
+// The texts of those columns; what can't be read is empty.
+struct FileFacts {
+    std::string size;
+    std::string created;
+    std::string company;
+    std::string product;
+    std::string description;
+};
+
+FileFacts ReadFileFacts(const Machine& machine, const std::string& path);
+void ShowFileFacts(ListRow& row, const FileColumns& columns, const FileFacts& facts);
 
 }  // namespace velkarix

@@ -21,6 +21,12 @@ void SortByColumn(ListView& list, int column) {
     list.Sort(static_cast<std::size_t>(column), order);
 }
 
+void ColumnSort::Click(ListView& list, int column) {
+    if (column == lastColumn_) return SortByColumn(list, column);
+    lastColumn_ = column;
+    list.Sort(static_cast<std::size_t>(column), list.Order());
+}
+
 void AutoSizeColumns(ListView& list) {
     list.FitColumns();
 }

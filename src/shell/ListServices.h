@@ -12,6 +12,11 @@
 
 namespace velkarix {
 
+// The words of a list's column that tells whether an item is on.
+constexpr const char* EnabledText(bool enabled) {
+    return enabled ? "True" : "False";
+}
+
 // Colours a new row by its state. A row that is enabled and not suspicious is left as it is, so
 // a colour that it had stays.
 void MarkRow(const Appearance& appearance, ListRow& row, bool enabled, bool suspicious);
@@ -19,6 +24,17 @@ void MarkRow(const Appearance& appearance, ListRow& row, bool enabled, bool susp
 // A click on a header: sorts by `column` (from 0) and turns the order round, whichever column the
 // list was sorted by before.
 void SortByColumn(ListView& list, int column);
+
+// Sorting where a click on another header keeps the order, and only a second click on the same one
+// turns it round.
+class ColumnSort {
+  public:
+    // `column` counts from 0.
+    void Click(ListView& list, int column);
+
+  private:
+    int lastColumn_ = 0;
+};
 
 // Fits all columns to their headers and contents.
 void AutoSizeColumns(ListView& list);

@@ -47,7 +47,8 @@ class RowBlock {
 
     std::string ValueOf(const ReportLine& line) const {
         if (line.value == ReportValue::Fact) return facts_.getItem(line.index);
-        const std::string& text = row_.Text(static_cast<std::size_t>(line.index));
+        std::string text = row_.Text(static_cast<std::size_t>(line.index));
+        if (line.words != nullptr) text = line.words(text);
         if (line.value == ReportValue::YesNo) return text == "True" ? "Yes" : "No";
         const bool marked = line.value == ReportValue::ColumnWithRisk && HasRisk();
         return marked ? text + " *******[Risk]*******" : text;

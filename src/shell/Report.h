@@ -31,6 +31,7 @@ struct ReportLine {
     ReportValue value;
     int index;                        // of the column or the fact
     const char* riskLabel = nullptr;  // stands in place of the label on a line with the mark
+    std::string (*words)(const std::string& text) = nullptr;  // what is written for a column's text
 };
 
 // The twelve lines of a file's version facts, in the order and with the labels of all reports.
@@ -51,6 +52,7 @@ struct ReportTable {
     // The path of a row's file, whose version block follows the lines; empty: there is none.
     std::function<std::string(const ListRow&)> filePath;
     const char* failure;  // what the user is told, before the error's description
+    MessageIcon failureIcon = MessageIcon::Information;
 };
 
 // Appends a block for each row in the shown order, with an empty line between two rows. Failure

@@ -59,15 +59,16 @@ ErrorCode CompareArrived(Application& application, const ValueMove& move, const 
 const ValueForm textForm = {BecomeText, TransferText};
 const ValueForm markForm = {BecomeMark, TransferMark};
 
-void MoveValue(Application& application, const ValueMove& move, const ValueForm& form) {
+bool MoveValue(Application& application, const ValueMove& move, const ValueForm& form) {
     modRegistry& registry = application.registry;
     Registry& raw = application.machine.registry;
     const auto sayNotDeleted = [&](ErrorCode code) {
         registry.ShowValueNotDeleted(move.source, move.valueName, code);
+        return false;
     };
     RawValue value;
     const ErrorCode read = ReadRawValue(raw, move.hive, move.source, move.valueName, value);
-    if (read == error::FileNotFound) return;
+    if (read == error::FileNotFound) return false;
     if (read != error::Success) return sayNotDeleted(read);
     RawValue before;
     const ErrorCode there = ReadDestination(application, move, before);
@@ -75,20 +76,22 @@ void MoveValue(Application& application, const ValueMove& move, const ValueForm&
     if (!isFree && there != error::Success) return sayNotDeleted(there);
 
     const RawValue wanted = form.become(value);
-    if (!KeepWhereItChanges(application, move, move.source, value, wanted)) return;
-    if (!isFree && !KeepWhereItChanges(application, move, move.destination, before, wanted)) return;
-    if (!form.transfer(registry, move)) return;
+    if (!KeepWhereItChanges(application, move, move.source, value, wanted)) return false;
+    if (!isFree && !KeepWhereItChanges(application, move, move.destination, before, wanted)) {
+        return false;
+    }
+    if (!form.transfer(registry, move)) return false;
     const ErrorCode compared = CompareArrived(application, move, wanted);
     if (compared == error::Success) {
         registry.DeleteValue(move.hive, move.source, move.valueName, false);
-        return;
+        return true;
     }
     if (isFree) {
         registry.DeleteValue(move.hive, move.destination, move.valueName, true);
     } else {
         WriteRawValue(raw, move.hive, move.destination, before);
     }
-    sayNotDeleted(compared);
+    return sayNotDeleted(compared);
 }
 
 }  // namespace velkarix

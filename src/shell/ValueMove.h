@@ -32,7 +32,8 @@ extern const ValueForm textForm;
 extern const ValueForm markForm;
 
 // Writes, compares, and only then deletes at the source. Keeps the value in a registry file first
-// where the form changes it.
-void MoveValue(Application& application, const ValueMove& move, const ValueForm& form);
+// where the form changes it. True when the value arrived and its deletion at the source was asked
+// for.
+bool MoveValue(Application& application, const ValueMove& move, const ValueForm& form);
 
 }  // namespace velkarix

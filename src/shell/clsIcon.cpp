@@ -2,16 +2,27 @@
 
 namespace velkarix {
 
-std::optional<Picture> clsIcon::GetIconFromFile(const std::string& path, int index, bool large) {
+// The system makes both sizes, whichever is wanted; only what is wanted is drawn.
+IconPictures clsIcon::Draw(const std::string& path, int index, bool wantLarge, bool wantSmall) {
     const ExtractedIcons icons = shell_.ExtractIconExA(path, index);
-    const IconHandle wanted = large ? icons.largeIcon : icons.smallIcon;
-    std::optional<Picture> picture;
-    if (icons.count > 0 && wanted != 0) picture = shell_.DrawIconEx(wanted);
-    // The system makes both sizes, whichever is wanted.
+    IconPictures pictures;
+    if (icons.count > 0) {
+        if (wantLarge && icons.largeIcon != 0) pictures.large = shell_.DrawIconEx(icons.largeIcon);
+        if (wantSmall && icons.smallIcon != 0) pictures.small = shell_.DrawIconEx(icons.smallIcon);
+    }
     for (const IconHandle icon : {icons.largeIcon, icons.smallIcon}) {
         if (icon != 0) shell_.DestroyIcon(icon);
     }
-    return picture;
+    return pictures;
+}
+
+IconPictures clsIcon::GetIcons(const std::string& path, int index) {
+    return Draw(path, index, true, true);
+}
+
+std::optional<Picture> clsIcon::GetIconFromFile(const std::string& path, int index, bool large) {
+    const IconPictures pictures = Draw(path, index, large, !large);
+    return large ? pictures.large : pictures.small;
 }
 
 }  // namespace velkarix

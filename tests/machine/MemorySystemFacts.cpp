@@ -119,6 +119,14 @@ std::optional<std::string> MemorySystemFacts::ExpandEnvironmentStringsA(const st
     return IfItFits(expanded, capacity);
 }
 
+// The code page is one that holds the characters up to 255 under their own numbers.
+std::string MemorySystemFacts::WideCharToMultiByte(std::u16string_view text) {
+    journal_.Enter("WideCharToMultiByte");
+    std::string ansi;
+    for (const char16_t c : text) ansi += c < 256 ? static_cast<char>(c) : '?';
+    return ansi;
+}
+
 std::string MemorySystemFacts::GetModuleFileNameA() {
     return journal_.Enter("GetModuleFileNameA") ? std::string() : programPath_;
 }

@@ -35,6 +35,7 @@ class MemorySystemFacts : public SystemFacts {
     std::string GetEnvironmentVariableA(const std::string& name) override;
     std::optional<std::string> ExpandEnvironmentStringsA(const std::string& text,
                                                          std::uint32_t capacity) override;
+    std::string WideCharToMultiByte(std::u16string_view text) override;
     std::string GetModuleFileNameA() override;
 
   private:

@@ -37,7 +37,7 @@ TEST_F(FileRowsTest, ShowTheFactsOfTheFileInTheColumnsOfTheList) {
         .Version(
             {{"CompanyName", "Works"}, {"ProductName", "Suite"}, {"FileDescription", "Draws"}});
     ListRow& row = list.Add("A", "a.dll", 1);
-    ShowFileFacts(machine.Parts(), row, {1, 2, 3, 4, 5}, "C:\\a.dll");
+    ShowFileFacts(row, {1, 2, 3, 4, 5}, ReadFileFacts(machine.Parts(), "C:\\a.dll"));
     const char* const expected[] = {"a.dll", "1.5", "05/07/2003", "Works", "Suite", "Draws"};
     for (std::size_t column = 0; column < std::size(expected); ++column) {
         EXPECT_EQ(row.Text(column), expected[column]);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/win32/SystemText.h"
+#include "platform/win32/WideText.h"
 #include "platform/win32/WindowsHeaders.h"
 
 namespace velkarix {
@@ -65,6 +66,10 @@ std::optional<std::string> Win32SystemFacts::ExpandEnvironmentStringsA(const std
     const DWORD size = ::ExpandEnvironmentStringsA(text.c_str(), buffer.data(), capacity);
     if (size == 0 || size > capacity) return std::nullopt;
     return TextOf(buffer.data(), capacity);
+}
+
+std::string Win32SystemFacts::WideCharToMultiByte(std::u16string_view text) {
+    return ToAnsi(std::wstring(text.begin(), text.end()));
 }
 
 std::string Win32SystemFacts::GetModuleFileNameA() {
