@@ -20,8 +20,8 @@ double Digest(const std::string& path) {
     const Machine parts = rest.Parts();
     const Machine machine{parts.registry, parts.profileFiles, parts.versionResources,
                           files,          parts.clock,        parts.processes,
-                          parts.token,    parts.shell,        parts.system,
-                          parts.windows,  parts.cryptography};
+                          parts.token,    parts.shell,        parts.shortcuts,
+                          parts.system,   parts.windows,      parts.cryptography};
     std::string digest;
     const double seconds = SecondsOf([&] { digest = GetFileMD5(machine, path); });
     if (digest.size() != 32) std::abort();

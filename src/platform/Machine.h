@@ -9,6 +9,7 @@
 #include "platform/ProfileFiles.h"
 #include "platform/Registry.h"
 #include "platform/Shell.h"
+#include "platform/Shortcuts.h"
 #include "platform/SystemFacts.h"
 #include "platform/Token.h"
 #include "platform/VersionResources.h"
@@ -25,6 +26,7 @@ struct Machine {
     Processes& processes;
     Token& token;
     Shell& shell;
+    Shortcuts& shortcuts;
     SystemFacts& system;
     WindowSystem& windows;
     Cryptography& cryptography;

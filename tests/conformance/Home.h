@@ -43,6 +43,10 @@ class Home {
     virtual void Lock(const std::string& path) = 0;
     // Makes an icon file (.ico) that has one icon.
     virtual void MakeIconFile(const std::string& path) = 0;
+    // Makes a shortcut file, as the system's own programs do; the icon's index follows a comma.
+    virtual void MakeShortcut(const std::string& path, const Shortcut& shortcut) = 0;
+    // Whether the automation object "WScript.Shell" can read shortcut files: Wine's can't.
+    virtual bool ScriptShellReads() = 0;
     // Whether the read-only attribute keeps this process from writing: not for the root user of
     // a Wine.
     virtual bool KeepsReadOnly() = 0;

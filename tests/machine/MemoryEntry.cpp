@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "tests/machine/MemoryClock.h"
+#include "tests/machine/ShortcutFile.h"
 #include "tests/machine/VersionResourceBuilder.h"
 
 namespace velkarix {
@@ -53,6 +54,10 @@ MemoryEntry& MemoryEntry::Version(const VersionFields& fields) {
 MemoryEntry& MemoryEntry::VersionBlock(Bytes block) {
     versionBlock = std::move(block);
     return *this;
+}
+
+MemoryEntry& MemoryEntry::Shortcut(const velkarix::Shortcut& shortcut) {
+    return Content(MakeShortcutFile(shortcut));
 }
 
 MemoryEntry& MemoryEntry::Icon(int index, Picture large, Picture small) {

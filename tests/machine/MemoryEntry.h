@@ -12,6 +12,7 @@
 #include "base/Picture.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
+#include "platform/Shortcuts.h"
 #include "tests/machine/NamedList.h"
 
 namespace velkarix {
@@ -42,6 +43,8 @@ struct MemoryEntry {
     MemoryEntry& Version(const VersionFields& fields);
     // Any version resource, also a broken one; see VersionResourceBuilder.
     MemoryEntry& VersionBlock(Bytes block);
+    // The bytes of a shortcut file (.lnk) that says this.
+    MemoryEntry& Shortcut(const velkarix::Shortcut& shortcut);
     // The icon at an index as ExtractIconExA takes it (negative: the icon's number in the file).
     MemoryEntry& Icon(int index, Picture large, Picture small);
 

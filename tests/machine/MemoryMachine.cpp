@@ -7,8 +7,8 @@ MemoryMachine::MemoryMachine(NamedSystem named) {
 }
 
 Machine MemoryMachine::Parts() {
-    return {registry, profileFiles, versionResources, files,   clock,       processes,
-            token,    shell,        system,           windows, cryptography};
+    return {registry, profileFiles, versionResources, files,  clock,   processes,
+            token,    shell,        shortcuts,        system, windows, cryptography};
 }
 
 void MemoryMachine::FailNext(const std::string& call, ErrorCode error) {
@@ -29,6 +29,11 @@ void MemoryMachine::SetSystem(NamedSystem named) {
     processes.SetHasToolhelp(named != NamedSystem::WindowsNt351 &&
                              named != NamedSystem::WindowsNt40);
     token.SetFamily(family);
+    // Windows 95 and NT 4.0 come without the one, NT 3.51 without both.
+    shortcuts.SetHasScriptShell(named != NamedSystem::Windows95 &&
+                                named != NamedSystem::WindowsNt351 &&
+                                named != NamedSystem::WindowsNt40);
+    shortcuts.SetHasShellLink(named != NamedSystem::WindowsNt351);
 }
 
 void MemoryMachine::SetFamily(Family family) {

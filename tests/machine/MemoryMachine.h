@@ -23,6 +23,7 @@
 #include "tests/machine/MemoryProfileFiles.h"
 #include "tests/machine/MemoryRegistry.h"
 #include "tests/machine/MemoryShell.h"
+#include "tests/machine/MemoryShortcuts.h"
 #include "tests/machine/MemorySystemFacts.h"
 #include "tests/machine/MemoryToken.h"
 #include "tests/machine/MemoryVersionResources.h"
@@ -51,7 +52,7 @@ class MemoryMachine {
 
     // Makes the machine answer as one of the nine systems: version, rules of the registry, which
     // libraries there are (PSAPI on the NT family, Toolhelp everywhere but on NT 3.51 and 4.0),
-    // tokens. Files and registry stay.
+    // tokens, readers of shortcuts. Files and registry stay.
     void SetSystem(NamedSystem named);
     // The same with Windows 98 or Windows XP for the family.
     void SetFamily(Family family);
@@ -74,6 +75,7 @@ class MemoryMachine {
     MemoryProcesses processes{journal_};
     MemoryToken token{journal_};
     MemoryShell shell{journal_, disk};
+    MemoryShortcuts shortcuts{journal_, disk};
     MemorySystemFacts system{journal_};
     MemoryWindowSystem windows{journal_};
     OpenSslCryptography cryptography{journal_};

@@ -43,6 +43,22 @@ TEST(MemoryMachine, HasTheLibrariesOfItsSystem) {
     }
 }
 
+TEST(MemoryMachine, HasTheReadersOfShortcutsOfItsSystem) {
+    struct Row {
+        NamedSystem system;
+        bool scriptShell;
+        bool shellLink;
+    };
+    for (const Row& row :
+         {Row{NamedSystem::Windows95, false, true}, Row{NamedSystem::Windows98, true, true},
+          Row{NamedSystem::WindowsNt351, false, false}, Row{NamedSystem::WindowsNt40, false, true},
+          Row{NamedSystem::WindowsXp, true, true}}) {
+        MemoryMachine machine(row.system);
+        EXPECT_EQ(machine.Parts().shortcuts.MakeScriptShell() != nullptr, row.scriptShell);
+        EXPECT_EQ(machine.Parts().shortcuts.MakeShellLink() != nullptr, row.shellLink);
+    }
+}
+
 TEST(MemoryMachine, SetUpIsNotInTheJournalAndTheCallsAre) {
     MemoryMachine machine;
     machine.SetValue(Hive::CurrentUser, "Software\\A", "Name", "text");

@@ -171,8 +171,8 @@ TEST_F(SnapshotListingTest, DropsTheLastOfTwoHundredAndSixtyCharacters) {
     const Machine all = machine.Parts();
     const Machine parts{all.registry, all.profileFiles, all.versionResources,
                         all.files,    all.clock,        processes,
-                        all.token,    all.shell,        all.system,
-                        all.windows,  all.cryptography};
+                        all.token,    all.shell,        all.shortcuts,
+                        all.system,   all.windows,      all.cryptography};
     EXPECT_EQ(ListProcesses(parts, Me), (ProcessEntries{{std::string(259, 'x'), 7}}));
 }
 

@@ -203,10 +203,10 @@ class ChangingRegistryTest : public modRegistryReadTest {
 
     ChangingRegistry changing{machine.Journal()};
     Machine real = machine.Parts();
-    Machine parts{changing,     real.profileFiles, real.versionResources,
-                  real.files,   real.clock,        real.processes,
-                  real.token,   real.shell,        real.system,
-                  real.windows, real.cryptography};
+    Machine parts{changing,    real.profileFiles, real.versionResources,
+                  real.files,  real.clock,        real.processes,
+                  real.token,  real.shell,        real.shortcuts,
+                  real.system, real.windows,      real.cryptography};
     modRegistry operations{parts, desktop, "Velkarix"};
 };
 
@@ -278,10 +278,10 @@ class LyingRegistryTest : public modRegistryReadTest {
 
     LyingRegistry lying{machine.Journal()};
     Machine real = machine.Parts();
-    Machine parts{lying,        real.profileFiles, real.versionResources,
-                  real.files,   real.clock,        real.processes,
-                  real.token,   real.shell,        real.system,
-                  real.windows, real.cryptography};
+    Machine parts{lying,       real.profileFiles, real.versionResources,
+                  real.files,  real.clock,        real.processes,
+                  real.token,  real.shell,        real.shortcuts,
+                  real.system, real.windows,      real.cryptography};
     modRegistry operations{parts, desktop, "Velkarix"};
 };
 
@@ -430,10 +430,10 @@ TEST_F(modRegistryReadTest, GetBinaryValueGivesTrueFor552BytesThoughTheKeyDoesnt
         }
     } refusing(machine.Journal());
     const Machine real = machine.Parts();
-    const Machine parts{refusing,     real.profileFiles, real.versionResources,
-                        real.files,   real.clock,        real.processes,
-                        real.token,   real.shell,        real.system,
-                        real.windows, real.cryptography};
+    const Machine parts{refusing,    real.profileFiles, real.versionResources,
+                        real.files,  real.clock,        real.processes,
+                        real.token,  real.shell,        real.shortcuts,
+                        real.system, real.windows,      real.cryptography};
     modRegistry operations(parts, desktop, "Velkarix");
     Bytes bytes;
     refusing.SetRaw(User, key, "Name", registryType::Binary, Bytes(552, 1));

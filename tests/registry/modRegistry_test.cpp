@@ -282,10 +282,10 @@ TEST_F(modRegistryTest, DeleteSubKeysEndsWhenLinksLeadRoundInACircle) {
     CircularRegistry circular(machine.Journal());
     circular.AddKey(User, "Software");
     const Machine real = machine.Parts();
-    const Machine parts{circular,     real.profileFiles, real.versionResources,
-                        real.files,   real.clock,        real.processes,
-                        real.token,   real.shell,        real.system,
-                        real.windows, real.cryptography};
+    const Machine parts{circular,    real.profileFiles, real.versionResources,
+                        real.files,  real.clock,        real.processes,
+                        real.token,  real.shell,        real.shortcuts,
+                        real.system, real.windows,      real.cryptography};
     EXPECT_FALSE(modRegistry(parts, desktop, "Velkarix").DeleteSubKeys(User, "Software"));
     EXPECT_EQ(circular.OpenKeyCount(), 0u);
     EXPECT_LT(machine.Journal().CountOf("RegOpenKeyExA"), 1000u);

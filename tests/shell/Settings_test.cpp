@@ -112,17 +112,10 @@ TEST_F(SettingsTest, ATextWithANulEndsThere) {
         }
     } files(machine.Journal(), machine.disk);
     const Machine real = machine.Parts();
-    const Machine parts{real.registry,
-                        files,
-                        real.versionResources,
-                        real.files,
-                        real.clock,
-                        real.processes,
-                        real.token,
-                        real.shell,
-                        real.system,
-                        real.windows,
-                        real.cryptography};
+    const Machine parts{real.registry, files,        real.versionResources,
+                        real.files,    real.clock,   real.processes,
+                        real.token,    real.shell,   real.shortcuts,
+                        real.system,   real.windows, real.cryptography};
     EXPECT_EQ(Settings(parts).ReadIni("Main", "View", ""), "ab");
 }
 

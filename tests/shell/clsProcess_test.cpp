@@ -162,9 +162,9 @@ class LyingResourcesTest : public clsProcessTest {
   protected:
     LyingResources lying;
     Machine real = machine.Parts();
-    Machine parts{real.registry,    real.profileFiles, lying,      real.files,  real.clock,
-                  real.processes,   real.token,        real.shell, real.system, real.windows,
-                  real.cryptography};
+    Machine parts{real.registry,  real.profileFiles, lying,        real.files,
+                  real.clock,     real.processes,    real.token,   real.shell,
+                  real.shortcuts, real.system,       real.windows, real.cryptography};
     clsProcess lyingFacts{parts};
 };
 

@@ -84,8 +84,8 @@ TEST_F(modMD5Test, AFileThatFailsPartWayHasNone) {
     const Machine real = machine.Parts();
     const Machine parts{real.registry, real.profileFiles, real.versionResources,
                         files,         real.clock,        real.processes,
-                        real.token,    real.shell,        real.system,
-                        real.windows,  real.cryptography};
+                        real.token,    real.shell,        real.shortcuts,
+                        real.system,   real.windows,      real.cryptography};
     EXPECT_EQ(GetFileMD5(parts, Path), "");
     EXPECT_EQ(files.OpenFileCount(), 0u);
 }
@@ -102,8 +102,8 @@ TEST_F(modMD5Test, ADigestOfAnotherLengthIsNone) {
     const Machine real = machine.Parts();
     const Machine parts{real.registry, real.profileFiles, real.versionResources,
                         real.files,    real.clock,        real.processes,
-                        real.token,    real.shell,        real.system,
-                        real.windows,  cryptography};
+                        real.token,    real.shell,        real.shortcuts,
+                        real.system,   real.windows,      cryptography};
     EXPECT_EQ(GetFileMD5(parts, Path), "");
 }
 

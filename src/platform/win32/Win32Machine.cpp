@@ -3,8 +3,8 @@
 namespace velkarix {
 
 Machine Win32Machine::Parts() {
-    return {registry_, profileFiles_, versionResources_, files_,   clock_,       processes_,
-            token_,    shell_,        system_,           windows_, cryptography_};
+    return {registry_, profileFiles_, versionResources_, files_,  clock_,   processes_,
+            token_,    shell_,        shortcuts_,        system_, windows_, cryptography_};
 }
 
 }  // namespace velkarix

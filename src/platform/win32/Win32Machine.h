@@ -9,6 +9,7 @@
 #include "platform/win32/Win32ProfileFiles.h"
 #include "platform/win32/Win32Registry.h"
 #include "platform/win32/Win32Shell.h"
+#include "platform/win32/Win32Shortcuts.h"
 #include "platform/win32/Win32SystemFacts.h"
 #include "platform/win32/Win32Token.h"
 #include "platform/win32/Win32VersionResources.h"
@@ -30,6 +31,7 @@ class Win32Machine {
     Win32Processes processes_;
     Win32Token token_;
     Win32Shell shell_;
+    Win32Shortcuts shortcuts_;
     Win32SystemFacts system_;
     Win32WindowSystem windows_;
     Win32Cryptography cryptography_;

@@ -49,6 +49,10 @@ class MemoryHome : public Home {
     void MakeIconFile(const std::string& path) override {
         memory_.AddFile(path).Icon(0, Square(32), Square(16));
     }
+    void MakeShortcut(const std::string& path, const Shortcut& shortcut) override {
+        memory_.AddFile(path).Shortcut(shortcut);
+    }
+    bool ScriptShellReads() override { return true; }
     bool KeepsReadOnly() override { return true; }
     void SetCurrentFolder(const std::string& path) override { memory_.disk.SetCurrentFolder(path); }
     std::string VersionedFile() override {

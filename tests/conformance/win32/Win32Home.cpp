@@ -10,6 +10,7 @@
 
 #include "platform/win32/Win32Machine.h"
 #include "tests/conformance/Home.h"
+#include "tests/conformance/win32/SaveShortcut.h"
 
 namespace velkarix {
 namespace {
@@ -171,6 +172,12 @@ class Win32Home : public Home {
                                          FILE_ATTRIBUTE_NORMAL, nullptr));
     }
     void MakeIconFile(const std::string& path) override { MakeFile(path, RedIcon(), 0); }
+    void MakeShortcut(const std::string& path, const Shortcut& shortcut) override {
+        SaveShortcut(path, shortcut);
+    }
+    bool ScriptShellReads() override {
+        return GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") == nullptr;
+    }
     bool KeepsReadOnly() override {
         const std::string path = folder_ + "\\readonly";
         MakeFile(path, "", FILE_ATTRIBUTE_READONLY);
