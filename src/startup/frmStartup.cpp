@@ -116,6 +116,7 @@ frmStartup::frmStartup(Application& application, bool& toldOfShortcuts)
                     [this](int column) { sort_.Click(lstvStartup_, column - 1); },
                     {},
                     [this](MouseButton button) { lstvStartup_MouseUp(button); }}) {
+    BuildStartupTree();  // before its width is asked for
     MakeLayout();
 }
 
@@ -142,7 +143,6 @@ void frmStartup::Form_Load() {
         if (!PathExists(files, held)) files.CreateDirectoryA(held);
     }
     ClearStartupList();
-    BuildStartupTree();
     shortcuts_.emplace(application_.machine.shortcuts);
     const TreeNode* all = tvwStartup_.Find(AllNodes);
     tvwStartup_.Select(all);

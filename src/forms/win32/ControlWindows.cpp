@@ -12,6 +12,7 @@
 #include "forms/win32/StaticWindows.h"
 #include "forms/win32/TabStripWindow.h"
 #include "forms/win32/TextBoxWindow.h"
+#include "forms/win32/TreeViewWindow.h"
 
 namespace velkarix {
 
@@ -42,6 +43,7 @@ class Maker : public ControlVisitor {
     void Visit(PictureBox& control) override { Make<PictureWindow>(control); }
     void Visit(TabStrip& control) override { Make<TabStripWindow>(control); }
     void Visit(TextBox& control) override { Make<TextBoxWindow>(control); }
+    void Visit(TreeView& control) override { Make<TreeViewWindow>(control); }
 
   private:
     template <typename Window, typename Model>

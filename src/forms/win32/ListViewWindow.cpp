@@ -9,7 +9,6 @@ namespace velkarix {
 
 namespace {
 
-constexpr int ImageSizeAt96 = 16;
 // A list that composes off screen, where the common controls can (version 6).
 constexpr DWORD DoubleBuffered = 0x00010000;
 constexpr DWORD ExtendedStyle = LVS_EX_FULLROWSELECT | DoubleBuffered;
@@ -20,7 +19,7 @@ constexpr DWORD Style = WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL 
 ListViewWindow::ListViewWindow(DesktopContext& context, ListView& list, const ControlPlace& place)
     : ControlWindow(context, list, place, {WC_LISTVIEWA, Style, WS_EX_CLIENTEDGE}),
       list_(list),
-      images_(context.instance, context.dpi.Pixels(ImageSizeAt96)) {
+      images_(context.instance, context.metrics.SmallImage()) {
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, ExtendedStyle, ExtendedStyle);
     if (list.CheckBoxes()) {
         Send(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);

@@ -5,6 +5,7 @@
 #include "forms/ComboBox.h"
 #include "forms/ListView.h"
 #include "forms/TabStrip.h"
+#include "forms/TreeView.h"
 #include "forms/win32/Screen.h"
 
 namespace velkarix {
@@ -146,6 +147,22 @@ void Metrics::Visit(TextBox& control) {
     const int line = CaptionExtent(fonts_.Dialog(), {}).height;
     size_ = {shape.widthInCharacters * AverageCharacterWidth(fonts_.Dialog()) + dpi_.Pixels(12),
              shape.lines * line + dpi_.Pixels(8)};
+}
+
+// As if all nodes were open.
+void Metrics::Visit(TreeView& control) {
+    int widest = 0;
+    for (const auto& node : control.Nodes()) {
+        int indents = 1;  // the lines to the roots take one
+        for (const TreeNode* above = node->parent; above != nullptr; above = above->parent) {
+            ++indents;
+        }
+        widest = std::max(widest,
+                          indents * TreeIndent() + TextExtent(fonts_.Dialog(), node->text).width);
+    }
+    // Edges, and the room that the native tree keeps around a text.
+    size_ = {widest + SmallImage() + dpi_.Pixels(12) + 2 * GetSystemMetrics(SM_CXEDGE),
+             dpi_.Pixels(100)};
 }
 
 }  // namespace velkarix

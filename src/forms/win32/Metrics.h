@@ -26,6 +26,8 @@ class Metrics : public LayoutMetrics, private ControlVisitor {
     Insets FormMargins(FormKind kind);
     int PictureSize(Button::Look look) const;                          // on a picture button
     int MarkWidth() const { return dpi_.Pixels(spacing_.markWidth); }  // of the current button
+    int SmallImage() const { return dpi_.Pixels(16); }    // edge of an image beside a text
+    int TreeIndent() const { return dpi_.Pixels(19); }    // of a node, from the one it belongs to
     int BannerLine() const { return dpi_.Pixels(3); }     // along the lower edge of the banner
     int ButtonPadding() const { return dpi_.Pixels(2); }  // around icon and text of such a button
 
@@ -47,6 +49,7 @@ class Metrics : public LayoutMetrics, private ControlVisitor {
     void Visit(PictureBox& control) override;
     void Visit(TabStrip& control) override;
     void Visit(TextBox& control) override;
+    void Visit(TreeView& control) override;
 
     const Dpi& dpi_;
     const Fonts& fonts_;
