@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "CountingView.h"
+
 namespace velkarix {
 namespace {
 
@@ -180,6 +182,45 @@ TEST_F(ListViewTest, DoesNotDoubleClickWhileDisabled) {
     list.SetEnabled(false);
     EXPECT_FALSE(list.Raise("DblClick"));
     EXPECT_TRUE(calls.empty());
+}
+
+TEST_F(ListViewTest, BeginsWithDetailsAndTellsItsViewOfAnotherMode) {
+    CountingView view;
+    list.AttachView(&view);
+    EXPECT_EQ(list.Mode(), ListMode::Details);
+    list.SetMode(ListMode::Icons);
+    EXPECT_EQ(list.Mode(), ListMode::Icons);
+    EXPECT_EQ(view.Times(Aspect::Look), 1);
+    list.AttachView(nullptr);
+}
+
+TEST_F(ListViewTest, KeepsRowsOrderAndSelectionInAnotherMode) {
+    AddThree();
+    list.Sort(0, SortOrder::Ascending);
+    list.Select(&list.Row(1));
+    list.SetMode(ListMode::Icons);
+    EXPECT_EQ(Order(), "Alpha beta gamma ");
+    EXPECT_EQ(list.SelectedRow(), &list.Row(1));
+    EXPECT_TRUE(calls.empty());
+}
+
+TEST_F(ListViewTest, GivesARowTheFirstLargeImageUnlessItIsToldAnother) {
+    EXPECT_EQ(list.Add("A", "a", 3).LargeImage(), 1u);
+    EXPECT_EQ(list.Add("B", "b", 3, 2).LargeImage(), 2u);
+    EXPECT_EQ(list.Row(1).Image(), 3u);
+}
+
+TEST_F(ListViewTest, HoldsLargeImagesBesideTheSmallOnes) {
+    const ImageList small;
+    const ImageList large;
+    CountingView view;
+    list.AttachView(&view);
+    list.SetImages(&small);
+    list.SetLargeImages(&large);
+    EXPECT_EQ(list.Images(), &small);
+    EXPECT_EQ(list.LargeImages(), &large);
+    EXPECT_EQ(view.Times(Aspect::RowState), 2);
+    list.AttachView(nullptr);
 }
 
 TEST_F(ListViewTest, HoldsFiftyThousandRowsInOrder) {
