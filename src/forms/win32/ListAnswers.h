@@ -12,11 +12,12 @@ ListRow* RowAt(ListView& list, int position);
 
 // Fills in what LVN_GETDISPINFO asks for: text, image, check box.
 void DescribeRow(ListView& list, LVITEMA& item);
-// Gives a row's mark to its first column. The result is the answer to NM_CUSTOMDRAW.
+// Gives a row's mark to its first column, or to its icon's text. The result is the answer to
+// NM_CUSTOMDRAW.
 LRESULT MarkDrawnRow(ListView& list, const Fonts& fonts, NMLVCUSTOMDRAW& draw);
-// The position of the row that the user's typing leads to, or -1. Some systems ask in wide
-// letters whatever their parent speaks.
-LRESULT FindTypedRow(ListView& list, const NMLVFINDITEMA& wanted);
-LRESULT FindTypedRow(ListView& list, const NMLVFINDITEMW& wanted);
+// The position of the row that the user's typing, or an arrow key among icons, leads to; or -1.
+// Some systems ask in wide letters whatever their parent speaks.
+LRESULT FindRow(ListView& list, const NMLVFINDITEMA& wanted);
+LRESULT FindRow(ListView& list, const NMLVFINDITEMW& wanted);
 
 }  // namespace velkarix

@@ -7,13 +7,12 @@
 
 namespace velkarix {
 
-ListImages::ListImages(HINSTANCE instance, int size) : instance_(instance), size_(size) {
-    constexpr int growth = 16;
-    const UINT flags = BlendsAlpha() ? ILC_COLOR32 | ILC_MASK : ILC_COLOR24 | ILC_MASK;
-    list_.reset(ImageList_Create(size, size, flags, growth, growth));
-}
-
 void ListImages::Follow(const ImageList& images) {
+    if (list_ == nullptr) {
+        constexpr int growth = 16;
+        const UINT flags = BlendsAlpha() ? ILC_COLOR32 | ILC_MASK : ILC_COLOR24 | ILC_MASK;
+        list_.reset(ImageList_Create(size_, size_, flags, growth, growth));
+    }
     if (followed_ != &images || generation_ != images.Generation() || count_ > images.Count()) {
         ImageList_Remove(list_.get(), -1);
         followed_ = &images;

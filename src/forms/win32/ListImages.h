@@ -1,4 +1,4 @@
-// The native image list of a list's rows, kept in step with the model's.
+// The native image list of a list's rows or a tree's nodes, kept in step with the model's.
 #pragma once
 
 #include <cstddef>
@@ -11,9 +11,10 @@ namespace velkarix {
 class ListImages {
   public:
     // `size` is the edge of an image in pixels.
-    ListImages(HINSTANCE instance, int size);
+    ListImages(HINSTANCE instance, int size) : instance_(instance), size_(size) {}
     // Adds what `images` has more than before; begins anew when it was cleared or is another.
     void Follow(const ImageList& images);
+    // Null until there was something to follow.
     HIMAGELIST Handle() const { return list_.get(); }
 
   private:

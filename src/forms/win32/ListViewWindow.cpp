@@ -4,6 +4,7 @@
 
 #include "forms/win32/ListAnswers.h"
 #include "forms/win32/ListColumns.h"
+#include "forms/win32/ListModes.h"
 
 namespace velkarix {
 
@@ -12,14 +13,17 @@ namespace {
 // A list that composes off screen, where the common controls can (version 6).
 constexpr DWORD DoubleBuffered = 0x00010000;
 constexpr DWORD ExtendedStyle = LVS_EX_FULLROWSELECT | DoubleBuffered;
-constexpr DWORD Style = WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS;
+constexpr DWORD Style =
+    WS_TABSTOP | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_AUTOARRANGE;
 
 }  // namespace
 
 ListViewWindow::ListViewWindow(DesktopContext& context, ListView& list, const ControlPlace& place)
-    : ControlWindow(context, list, place, {WC_LISTVIEWA, Style, WS_EX_CLIENTEDGE}),
+    : ControlWindow(context, list, place,
+                    {WC_LISTVIEWA, Style | ListModeStyle(list.Mode()), WS_EX_CLIENTEDGE}),
       list_(list),
-      images_(context.instance, context.metrics.SmallImage()) {
+      images_(context.instance, context.metrics.SmallImage()),
+      largeImages_(context.instance, GetSystemMetrics(SM_CXICON)) {
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, ExtendedStyle, ExtendedStyle);
     if (list.CheckBoxes()) {
         Send(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
@@ -33,6 +37,7 @@ void ListViewWindow::Detach() {
     Context().pending.Remove(*this);
     // The native list destroys what image lists it has at its end: its check boxes, not ours.
     Send(LVM_SETIMAGELIST, LVSIL_SMALL, 0);
+    Send(LVM_SETIMAGELIST, LVSIL_NORMAL, 0);
     ControlWindow::Detach();
 }
 
@@ -49,6 +54,9 @@ void ListViewWindow::Changed(Aspect aspect) {
         case Aspect::ColumnWidths:
             fitWanted_ = true;
             break;
+        case Aspect::Look:
+            modeChanged_ = true;
+            break;
         default:
             ControlWindow::Changed(aspect);
             return;
@@ -57,15 +65,26 @@ void ListViewWindow::Changed(Aspect aspect) {
 }
 
 void ListViewWindow::Refresh() {
-    const ImageList* images = list_.Images();
-    if (images != nullptr) images_.Follow(*images);
-    Send(LVM_SETIMAGELIST, LVSIL_SMALL,
-         reinterpret_cast<LPARAM>(images != nullptr ? images_.Handle() : nullptr));
+    ShowImages(LVSIL_SMALL, list_.Images(), images_);
+    ShowImages(LVSIL_NORMAL, list_.LargeImages(), largeImages_);
+    if (modeChanged_) ShowListMode(Handle(), list_.Mode());
     if (rowsChanged_) Send(LVM_SETITEMCOUNT, list_.RowCount(), LVSICF_NOSCROLL);
-    if (fitWanted_) FitColumns(Handle(), list_, Context());
-    if (rowsChanged_ || selectionChanged_) ShowSelection();
-    InvalidateRect(Handle(), nullptr, FALSE);
-    rowsChanged_ = selectionChanged_ = fitWanted_ = false;
+    if (rowsChanged_ || modeChanged_) ArrangeIcons(Handle(), list_.Mode());
+    // Icons have no columns; they are fitted when they are on view again.
+    if (fitWanted_ && list_.Mode() == ListMode::Details) {
+        FitColumns(Handle(), list_, Context());
+        fitWanted_ = false;
+    }
+    if (rowsChanged_ || selectionChanged_ || modeChanged_) ShowSelection();
+    // A line covers its whole ground, a text below an icon may be narrower than the one before.
+    InvalidateRect(Handle(), nullptr, list_.Mode() == ListMode::Icons ? TRUE : FALSE);
+    rowsChanged_ = selectionChanged_ = modeChanged_ = false;
+}
+
+void ListViewWindow::ShowImages(int kind, const ImageList* images, ListImages& shown) const {
+    if (images != nullptr) shown.Follow(*images);
+    Send(LVM_SETIMAGELIST, static_cast<WPARAM>(kind),
+         reinterpret_cast<LPARAM>(images != nullptr ? shown.Handle() : nullptr));
 }
 
 void ListViewWindow::ShowSelection() {
@@ -82,7 +101,7 @@ void ListViewWindow::ShowSelection() {
     const std::size_t position = list_.PositionOf(*selected);
     item.state = item.stateMask;
     Send(LVM_SETITEMSTATE, position, reinterpret_cast<LPARAM>(&item));
-    if (selectionChanged_) Send(LVM_ENSUREVISIBLE, position, FALSE);
+    if (selectionChanged_ || modeChanged_) Send(LVM_ENSUREVISIBLE, position, FALSE);
 }
 
 void ListViewWindow::AppearanceChanged() {
@@ -98,9 +117,9 @@ LRESULT ListViewWindow::OnNotify(NMHDR& header) {
         case NM_CUSTOMDRAW:
             return MarkDrawnRow(list_, Context().fonts, reinterpret_cast<NMLVCUSTOMDRAW&>(header));
         case LVN_ODFINDITEMA:
-            return FindTypedRow(list_, reinterpret_cast<NMLVFINDITEMA&>(header));
+            return FindRow(list_, reinterpret_cast<NMLVFINDITEMA&>(header));
         case LVN_ODFINDITEMW:
-            return FindTypedRow(list_, reinterpret_cast<NMLVFINDITEMW&>(header));
+            return FindRow(list_, reinterpret_cast<NMLVFINDITEMW&>(header));
         case LVN_ITEMCHANGED:
             OnItemChanged(reinterpret_cast<NMLISTVIEW&>(header));
             return 0;

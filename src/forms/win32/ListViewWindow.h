@@ -1,5 +1,5 @@
-// A list as the native report list. The native list has no rows of its own: it asks the model for
-// what it shows, so the number of rows costs nothing.
+// A list as the native one, in lines or as icons. The native list has no rows of its own: it asks
+// the model for what it shows, so the number of rows costs nothing.
 #pragma once
 
 #include "forms/ListView.h"
@@ -23,6 +23,7 @@ class ListViewWindow : public ControlWindow, private Refreshable {
   private:
     // The window catches up with the model.
     void Refresh() override;
+    void ShowImages(int kind, const ImageList* images, ListImages& shown) const;
     void ShowSelection();
 
     // What the user did.
@@ -39,8 +40,10 @@ class ListViewWindow : public ControlWindow, private Refreshable {
 
     ListView& list_;
     ListImages images_;
+    ListImages largeImages_;
     bool rowsChanged_ = true;
     bool selectionChanged_ = true;
+    bool modeChanged_ = false;
     bool fitWanted_ = false;
 };
 

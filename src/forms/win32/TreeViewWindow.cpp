@@ -1,5 +1,7 @@
 #include "forms/win32/TreeViewWindow.h"
 
+#include <cstddef>
+
 namespace velkarix {
 
 namespace {
@@ -29,8 +31,6 @@ TreeViewWindow::TreeViewWindow(DesktopContext& context, TreeView& tree, const Co
     : ControlWindow(context, tree, place, {WC_TREEVIEWA, Style, WS_EX_CLIENTEDGE}),
       tree_(tree),
       images_(context.instance, context.metrics.SmallImage()) {
-    Send(TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(images_.Handle()));
-    Send(TVM_SETINDENT, static_cast<WPARAM>(context.metrics.TreeIndent()));
     context.pending.Add(*this);
 }
 
@@ -50,9 +50,16 @@ void TreeViewWindow::Changed(Aspect aspect) {
 }
 
 void TreeViewWindow::Refresh() {
+    if (items_.size() < tree_.Nodes().size()) AddNewNodes();
+    ShowSelection();
+}
+
+void TreeViewWindow::AddNewNodes() {
     const auto& nodes = tree_.Nodes();
     for (std::size_t i = items_.size(); i < nodes.size(); ++i) AddNode(*nodes[i]);
-    ShowSelection();
+    images_.Follow(pictures_);
+    Send(TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(images_.Handle()));
+    Send(TVM_SETINDENT, static_cast<WPARAM>(Context().metrics.TreeIndent()));
 }
 
 void TreeViewWindow::AddNode(const TreeNode& node) {
@@ -72,10 +79,7 @@ void TreeViewWindow::AddNode(const TreeNode& node) {
 
 int TreeViewWindow::ImageOf(const std::string& picture) {
     const auto [place, isNew] = imageOf_.try_emplace(picture, static_cast<int>(pictures_.Count()));
-    if (isNew) {
-        pictures_.Add(StockPicture{picture});
-        images_.Follow(pictures_);
-    }
+    if (isNew) pictures_.Add(StockPicture{picture});
     return place->second;
 }
 

@@ -26,6 +26,7 @@ class TreeViewWindow : public ControlWindow, private Refreshable {
   private:
     // The window catches up with the model.
     void Refresh() override;
+    void AddNewNodes();
     void AddNode(const TreeNode& node);
     int ImageOf(const std::string& picture);  // from 0
     void ShowSelection();
