@@ -131,8 +131,10 @@ void frmStartup::MakeLayout() {
     }
     SetControls(std::move(controls));
     SetAccelerators({{Key::F5, false, "cmdRefresh_Click"}});
-    SetLayout(Row({Item(tvwStartup_),
-                   Group(fmStartup_, Column({Item(lstvStartup_, 1), std::move(buttons)}), 1)}));
+    SetLayout(Column({Row({Column({Item(tvwStartup_, 1)}),
+                           Group(fmStartup_, Column({Item(lstvStartup_, 1)}), 1)},
+                          1),
+                      Row({Space(), std::move(buttons)})}));
 }
 
 void frmStartup::Form_Load() {
