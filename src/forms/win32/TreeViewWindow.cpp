@@ -85,9 +85,7 @@ int TreeViewWindow::ImageOf(const std::string& picture) {
 
 void TreeViewWindow::ShowSelection() {
     if (SelectedNode() == tree_.SelectedNode()) return;
-    showing_ = true;
     Send(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(ItemOf(tree_.SelectedNode())));
-    showing_ = false;
 }
 
 void TreeViewWindow::AppearanceChanged() {
@@ -98,11 +96,11 @@ void TreeViewWindow::AppearanceChanged() {
 LRESULT TreeViewWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     const TreeNode* clicked = message == WM_LBUTTONDOWN ? NodeAt(lParam) : nullptr;
     const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
-    if (showing_ || !MaySelect(message)) return result;
-    // A click on the selected node is one too. To open and close nodes is the native tree's matter.
+    if (!MaySelect(message)) return result;
+    // What the program selects is the model's already. A click on the selected node is one too.
     const TreeNode* selected = SelectedNode();
-    const bool told = selected != tree_.SelectedNode() || selected == clicked;
-    if (selected != nullptr && told) tree_.UserSelect(*selected);
+    const bool byUser = selected != tree_.SelectedNode() || selected == clicked;
+    if (selected != nullptr && byUser) tree_.UserSelect(*selected);
     return result;
 }
 

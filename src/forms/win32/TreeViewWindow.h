@@ -41,7 +41,6 @@ class TreeViewWindow : public ControlWindow, private Refreshable {
     ListImages images_;
     std::map<std::string, int> imageOf_;
     std::map<const TreeNode*, HTREEITEM> items_;
-    bool showing_ = false;  // the program selects now, not the user
 };
 
 }  // namespace velkarix

@@ -101,7 +101,9 @@ class NativeListModesTest : public NativeFormsTest {
         return SendMessageA(GetParent(List()), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&wanted));
     }
     int PixelsOf(int position, LONG part, COLORREF colour) const {
-        const RECT area = AreaOf(position, part);
+        return PixelsIn(AreaOf(position, part), colour);
+    }
+    int PixelsIn(const RECT& area, COLORREF colour) const {
         const HDC context = GetDC(List());
         int count = 0;
         for (LONG y = area.top; y < area.bottom; ++y) {
@@ -293,6 +295,22 @@ TEST_F(NativeListModesTest, MarkOfARowIsThatOfItsIconToo) {
         EXPECT_GT(PixelsOf(0, LVIR_LABEL, RGB(255, 0, 0)), 20);
         EXPECT_EQ(PixelsOf(1, LVIR_LABEL, RGB(255, 0, 0)), 0);
     }
+}
+
+TEST_F(NativeListModesTest, TextThatGrowsShorterUnderAnIconLeavesNothingBehind) {
+    AddRows(1);
+    Show(ListMode::Icons);
+    icons->list.Row(0).SetTextColor(RGB(255, 0, 0));
+    icons->list.Row(0).SetText(0, "WWWWWWW");
+    desktop.YieldEvents();
+    UpdateWindow(List());
+    const int before = PixelsOf(0, LVIR_BOUNDS, RGB(255, 0, 0));
+    icons->list.Row(0).SetText(0, "i");
+    desktop.YieldEvents();
+    UpdateWindow(List());
+    RECT inside{};
+    GetClientRect(List(), &inside);
+    EXPECT_LT(PixelsIn(inside, RGB(255, 0, 0)), before / 2);
 }
 
 TEST_F(NativeListModesTest, SortedIconsStandInTheNewOrder) {

@@ -23,7 +23,7 @@ class PageOfTree : public Form {
         tree.Add("CU", "Current User", "User", "All");
         tree.Add("HKCU", "Registry", "Registry", "CU");
         SetControls({&tree, &list});
-        SetLayout(Row({Item(tree), Item(list, 1)}));
+        SetLayout(Row({Column({Item(tree, 1)}), Item(list, 1)}));
     }
 
     Handler whenClicked;
@@ -238,6 +238,22 @@ TEST_F(NativeTreeTest, ClosingTheBranchOfTheSelectionLeadsToItsRoot) {
     SelectByProgram("HKLM");
     ClickButton("LM");
     EXPECT_EQ(Selected(), Native("LM"));
+    EXPECT_EQ(trees->tree.SelectedNode(), trees->tree.Find("LM"));
+    EXPECT_EQ(calls, Calls{"LM"});
+}
+
+TEST_F(NativeTreeTest, DoubleClickClosesABranchAndLeadsToItsRootToo) {
+    SelectByProgram("HKLM");
+    const RECT text = AreaOf("LM", true);
+    Post(Tree(), WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(text.left + 4, text.top + 4));
+    Post(Tree(), WM_LBUTTONUP, 0, MAKELPARAM(text.left + 4, text.top + 4));
+    EXPECT_FALSE(IsOpen("LM"));
+    EXPECT_EQ(calls, Calls{"LM"});
+}
+
+TEST_F(NativeTreeTest, BranchClosedForTheUserLeadsToItsRootToo) {
+    SelectByProgram("HKLM");
+    SendMessageA(Tree(), TVM_EXPAND, TVE_COLLAPSE, reinterpret_cast<LPARAM>(Native("LM")));
     EXPECT_EQ(trees->tree.SelectedNode(), trees->tree.Find("LM"));
     EXPECT_EQ(calls, Calls{"LM"});
 }
