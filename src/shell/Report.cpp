@@ -92,11 +92,11 @@ void WriteReportHeader(Application& application, const std::string& path,
 }
 
 bool AppendReport(Application& application, const std::string& path, const std::string& text,
-                  const char* failure) {
+                  const char* failure, MessageIcon failureIcon) {
     const ErrorCode result = AppendTextFile(application.machine.files, path, text);
     if (result == error::Success) return true;
-    application.Tell(MessageIcon::Information, failure + std::string(LineBreak) +
-                                                   application.registry.GetSystemErrorText(result));
+    application.Tell(failureIcon, failure + std::string(LineBreak) +
+                                      application.registry.GetSystemErrorText(result));
     return false;
 }
 
@@ -113,7 +113,7 @@ bool PrintReport(Application& application, ListView& list, const ReportTable& ta
         if (i > 0) text.append(LineBreak);
         text += block.Text();
     }
-    return AppendReport(application, path, text, table.failure);
+    return AppendReport(application, path, text, table.failure, table.failureIcon);
 }
 
 void RunReportCommand(Application& application, Form& owner, const ListView& list,

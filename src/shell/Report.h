@@ -44,7 +44,7 @@ void WriteReportHeader(Application& application, const std::string& path, const 
 // Appends `text` to the report. False when it can't be written, after a message: `failure`, then
 // the error's description; what was written up to there stays.
 bool AppendReport(Application& application, const std::string& path, const std::string& text,
-                  const char* failure);
+                  const char* failure, MessageIcon failureIcon = MessageIcon::Information);
 
 // What a list's writer writes.
 struct ReportTable {
