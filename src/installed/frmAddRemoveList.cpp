@@ -47,6 +47,9 @@ void frmAddRemove::ClearAppImages() {
 
 // An entry that forbids its removal, or lacks a name or a command, is no application to the user.
 void frmAddRemove::AddApplication(const std::string& subKey) {
+    // A name that begins with a NUL, as only other ways into the registry can make, leaves nothing
+    // but the path of all entries, which a deletion would take away.
+    if (subKey.empty()) return;
     modRegistry& registry = application_.registry;
     const std::string key = UninstallKey + subKey;
     const auto value = [&](const char* name) {
@@ -68,8 +71,7 @@ void frmAddRemove::AddApplication(const std::string& subKey) {
 // file's name.
 std::pair<std::string, int> frmAddRemove::IconPlace(const std::string& subKey,
                                                     std::string displayIcon) {
-    const std::string cached = FileInCache(subKey);
-    if (displayIcon.empty()) return {cached, 0};
+    if (displayIcon.empty()) return {FileInCache(subKey), 0};
     std::erase(displayIcon, '"');
     const std::size_t comma = displayIcon.rfind(',');
     if (comma == std::string::npos) return {displayIcon, 0};
@@ -82,8 +84,10 @@ std::pair<std::string, int> frmAddRemove::IconPlace(const std::string& subKey,
 std::string frmAddRemove::FileInCache(const std::string& subKey) {
     if (Holds(application_.WindowsName, "98") || Holds(application_.WindowsName, "95")) return {};
     Bytes record;
-    application_.registry.GetBinaryValue(Hive::LocalMachine, CacheKey + subKey, "SlowInfoCache",
-                                         record, true);
+    if (!application_.registry.GetBinaryValue(Hive::LocalMachine, CacheKey + subKey,
+                                              "SlowInfoCache", record, true)) {
+        return {};
+    }
     const std::optional<std::u16string> wide = FileOfSlowInfoCache(record);
     if (!wide) return {};
     const std::string file = application_.machine.system.WideCharToMultiByte(*wide);
@@ -96,8 +100,11 @@ frmAddRemove::AppIcon frmAddRemove::AddAppIcon(const std::string& file, int icon
         icons_.try_emplace({file, iconIndex}, AppIcon{DefaultImage, DefaultImage});
     if (isNew) {
         IconPictures icon = clsIcon(application_.machine.shell).GetIcons(file, iconIndex);
-        if (icon.large) place->second.large = ImgLarge_.Add(std::move(*icon.large));
-        if (icon.small) place->second.small = imglAddRemove_.Add(std::move(*icon.small));
+        // Both or none, so that a row doesn't show different icons in the two views.
+        if (icon.large && icon.small) {
+            place->second = {ImgLarge_.Add(std::move(*icon.large)),
+                             imglAddRemove_.Add(std::move(*icon.small))};
+        }
     }
     return place->second;
 }
