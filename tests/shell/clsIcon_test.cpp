@@ -30,6 +30,33 @@ TEST_F(clsIconTest, DrawsTheWantedSizeAndDestroysBothHandles) {
     EXPECT_EQ(icons.GetIconFromFile(Path, 0, false), Small);
 }
 
+TEST_F(clsIconTest, DrawsBothSizesOfOneExtraction) {
+    const IconPictures both = icons.GetIcons(Path, -7);
+    EXPECT_EQ(both.large, Small);
+    EXPECT_EQ(both.small, Large);
+    EXPECT_EQ(machine.Journal().Names(),
+              (std::vector<std::string>{"ExtractIconExA", "DrawIconEx", "DrawIconEx", "DestroyIcon",
+                                        "DestroyIcon"}));
+    EXPECT_EQ(machine.Journal().ArgumentsOf("ExtractIconExA"),
+              (std::vector<std::string>{Path + ", -7"}));
+}
+
+TEST_F(clsIconTest, GivesTheSizeThatCanBeDrawn) {
+    machine.FailNext("DrawIconEx");
+    const IconPictures both = icons.GetIcons(Path, 0);
+    EXPECT_EQ(both.large, std::nullopt);
+    EXPECT_EQ(both.small, Small);
+}
+
+TEST_F(clsIconTest, GivesNeitherSizeOfAMissingIcon) {
+    for (const std::string& path : {Path, std::string("C:\\missing.exe"), std::string()}) {
+        const IconPictures both = icons.GetIcons(path, 1);
+        EXPECT_EQ(both.large, std::nullopt);
+        EXPECT_EQ(both.small, std::nullopt);
+    }
+    EXPECT_EQ(machine.Journal().CountOf("DrawIconEx"), 0u);
+}
+
 TEST_F(clsIconTest, TakesTheIndexAsTheSystemDoes) {
     EXPECT_EQ(icons.GetIconFromFile(Path, -7, true), Small);
     EXPECT_EQ(machine.Journal().ArgumentsOf("ExtractIconExA"),
@@ -70,11 +97,22 @@ TEST_F(clsIconTest, AnIconInTheOtherSizeOnlyIsNoneAndIsDestroyed) {
     EXPECT_EQ(shell.destroyed, (std::vector<IconHandle>{5}));
 }
 
+TEST_F(clsIconTest, BothSizesOfAnIconInOneSizeOnlyAreThatOne) {
+    OddShell shell(machine.Journal(), machine.disk);
+    shell.icons = {1, 4, 0};
+    const IconPictures both = clsIcon(shell).GetIcons(Path, 0);
+    EXPECT_TRUE(both.large.has_value());
+    EXPECT_EQ(both.small, std::nullopt);
+    EXPECT_EQ(shell.destroyed, (std::vector<IconHandle>{4}));
+}
+
 TEST_F(clsIconTest, HandlesOfACallThatReportsNoIconAreDestroyedToo) {
     OddShell shell(machine.Journal(), machine.disk);
     shell.icons = {0, 4, 5};
     EXPECT_EQ(clsIcon(shell).GetIconFromFile(Path, 0, true), std::nullopt);
     EXPECT_EQ(shell.destroyed, (std::vector<IconHandle>{4, 5}));
+    EXPECT_EQ(clsIcon(shell).GetIcons(Path, 0).small, std::nullopt);
+    EXPECT_EQ(shell.destroyed, (std::vector<IconHandle>{4, 5, 4, 5}));
 }
 
 }  // namespace
