@@ -70,6 +70,41 @@ TEST_F(OptionGroupTest, RunsNoHandlerWhenTheProgramChooses) {
     EXPECT_EQ(clicks, 0);
 }
 
+TEST(NamedOptions, HaveTheirOwnNamesAndCaptionsInTheirOrder) {
+    OptionGroup group({{"optFirst", "First"}, {"optSecond", "Second"}, {"optThird", "Third"}}, 2,
+                      {});
+    EXPECT_EQ(group.Option(0).Name(), "optFirst");
+    EXPECT_EQ(group.Option(0).Text(), "First");
+    EXPECT_EQ(group.Option(2).Name(), "optThird");
+    EXPECT_EQ(group.Option(2).Text(), "Third");
+    EXPECT_EQ(group.Chosen(), 2);
+}
+
+TEST(NamedOptions, AreOneGroup) {
+    int clicks = 0;
+    OptionGroup group({{"optFirst", "First"}, {"optSecond", "Second"}}, 0, [&] { ++clicks; });
+    EXPECT_EQ(&group.Option(0).Group(), &group.Option(1).Group());
+    EXPECT_TRUE(group.Option(1).Raise("Click"));
+    EXPECT_TRUE(group.Option(1).Chosen());
+    EXPECT_FALSE(group.Option(0).Chosen());
+    EXPECT_EQ(group.Chosen(), group.Option(1).Index());
+    EXPECT_EQ(clicks, 1);
+    group.Choose(0);
+    EXPECT_TRUE(group.Option(0).Chosen());
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST(NamedOptions, TellTheirViewsOfEachChoice) {
+    OptionGroup group({{"optFirst", "First"}, {"optSecond", "Second"}}, 0, {});
+    CountingView first;
+    CountingView second;
+    group.Option(0).AttachView(&first);
+    group.Option(1).AttachView(&second);
+    group.Choose(1);
+    EXPECT_EQ(first.Times(Aspect::Value), 1);
+    EXPECT_EQ(second.Times(Aspect::Value), 1);
+}
+
 class TextBoxTest : public testing::Test {
   protected:
     TextBoxTest() { box.AttachView(&view); }
