@@ -108,6 +108,22 @@ TEST_P(SystemConformance, ExpandingNeedsRoomForTheNul) {
     EXPECT_EQ(system_.ExpandEnvironmentStringsA("%VelkarixTest%", 6), "value");
 }
 
+TEST_P(SystemConformance, WideTextBecomesTextOfTheCodePage) {
+    EXPECT_EQ(system_.WideCharToMultiByte(u"C:\\Apps\\a b.exe ~"), "C:\\Apps\\a b.exe ~");
+    EXPECT_EQ(system_.WideCharToMultiByte(u"\u00FC\u00C4\u00DF"), "\xFC\xC4\xDF");
+}
+
+TEST_P(SystemConformance, AWideCharacterThatTheCodePageLacksBecomesAQuestionMark) {
+    EXPECT_EQ(system_.WideCharToMultiByte(u"a\u4E2Db"), "a?b");
+    EXPECT_EQ(system_.WideCharToMultiByte(u"\uFFFF"), "?");
+}
+
+TEST_P(SystemConformance, WideTextKeepsItsLength) {
+    EXPECT_EQ(system_.WideCharToMultiByte(u""), "");
+    EXPECT_EQ(system_.WideCharToMultiByte(std::u16string(u"a\0b", 3)), std::string("a\0b", 3));
+    EXPECT_EQ(system_.WideCharToMultiByte(std::u16string(70000, u'x')), std::string(70000, 'x'));
+}
+
 TEST_P(SystemConformance, TheProgramsOwnPathIsAFile) {
     const std::string path = system_.GetModuleFileNameA();
     EXPECT_EQ(path.substr(1, 2), ":\\");
