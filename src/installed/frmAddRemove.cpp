@@ -20,6 +20,8 @@ constexpr std::int16_t DetailView = 3;
 constexpr int IconOption = 0;
 constexpr int DetailOption = 1;
 
+constexpr const char* RefreshHandler = "cmdRefresh_Click";
+
 struct ButtonEntry {
     const char* name;
     const char* caption;
@@ -70,7 +72,7 @@ void frmAddRemove::MakeLayout() {
         buttons.children.push_back(Item(*buttons_.back()));
     }
     SetControls(std::move(controls));
-    SetAccelerators({{Key::F5, false, "cmdRefresh_Click"}});
+    SetAccelerators({{Key::F5, false, RefreshHandler}});
     SetLayout(Column(
         {Item(lstvAddRemove_, 1), Row({Group(fmInstalled_, Row({Item(icon), Item(details)})),
                                        Space(), Column({Space(), std::move(buttons), Space()})})}));
@@ -78,7 +80,7 @@ void frmAddRemove::MakeLayout() {
 
 void frmAddRemove::Form_Load() {
     for (const auto& button : buttons_) SkinControl(*button, "button");
-    if (NumericPrefix(application_.settings.ReadIni("Main", "View", "0")) == DetailView) {
+    if (RoundedNumber(application_.settings.ReadIni("Main", "View", "0")) == DetailView) {
         CurrentView_ = DetailView;
         views_.Choose(DetailOption);
     }
@@ -108,15 +110,18 @@ void frmAddRemove::RunUninstaller() {
     if (row != nullptr) application_.machine.shell.WinExec(row->Text(1), ShowNormal);
 }
 
+// Events are served while the key goes, so that this page may have gone, and come again: the list
+// of whichever is loaded then shows the change.
 void frmAddRemove::cmdDelete_Click() {
     const ItemChange change(application_);
     const ListRow* row = lstvAddRemove_.SelectedRow();
     if (!change.Begun() || row == nullptr) return;
     const std::string key = UninstallKey + row->Key();
     if (!ConfirmDelete(application_, row->Text(0))) return;
-    const std::weak_ptr<const bool> life = life_;
-    DeleteItemKey(application_, BackupName, Hive::LocalMachine, key);
-    if (!life.expired()) Get_Uninstall();
+    Application& application = application_;
+    const std::string page = Name();
+    DeleteItemKey(application, BackupName, Hive::LocalMachine, key);
+    if (Form* loaded = application.forms.Loaded(page)) loaded->Run(RefreshHandler);
 }
 
 void frmAddRemove::cmdReport_Click() {

@@ -58,8 +58,6 @@ class frmAddRemove : public Form {
     std::int16_t CurrentView_;
     ColumnSort sort_;
     std::map<std::pair<std::string, int>, AppIcon> icons_;  // of this load of the list
-    // Expires with the page: deleting serves events, which may take the page away.
-    std::shared_ptr<const bool> life_ = std::make_shared<const bool>(true);
 
     ListView lstvAddRemove_;
     ImageList imglAddRemove_;
