@@ -90,13 +90,14 @@ class NativeListModesTest : public NativeFormsTest {
         return item.iImage;
     }
     // Where an arrow key leads from an icon, as a native list asks its owner.
-    LRESULT NearestTo(int position, UINT arrowKey) const {
+    LRESULT NearestTo(int position, UINT arrowKey, LONG besideIt = 0) const {
         NMLVFINDITEMA wanted{};
         wanted.hdr.hwndFrom = List();
         wanted.hdr.code = static_cast<UINT>(LVN_ODFINDITEMA);
         wanted.iStart = position;
         wanted.lvfi.flags = LVFI_NEARESTXY;
         wanted.lvfi.pt = Place(position);
+        wanted.lvfi.pt.x -= besideIt;
         wanted.lvfi.vkDirection = arrowKey;
         return SendMessageA(GetParent(List()), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&wanted));
     }
@@ -203,6 +204,7 @@ TEST_F(NativeListModesTest, ListWithoutLargeImagesHasNone) {
 TEST_F(NativeListModesTest, SelectionStaysWhenTheModeChanges) {
     AddRows(200);
     icons->list.Select(&icons->list.Row(150));
+    desktop.YieldEvents();
     Show(ListMode::Icons);
     EXPECT_EQ(Selected(), 150);
     RECT inside{};
@@ -274,6 +276,10 @@ TEST_F(NativeListModesTest, AnswersWhichIconLiesNextInADirection) {
     EXPECT_EQ(NearestTo(0, VK_LEFT), -1);
     EXPECT_EQ(NearestTo(0, VK_UP), -1);
     EXPECT_EQ(NearestTo(1, VK_F1), -1);
+    // The point may be another one of the icon than its place.
+    icons->list.Select(&icons->list.Row(1));
+    desktop.YieldEvents();
+    EXPECT_EQ(NearestTo(1, VK_RIGHT, 3), 2);
 }
 
 TEST_F(NativeListModesTest, TypingLeadsToTheIcon) {

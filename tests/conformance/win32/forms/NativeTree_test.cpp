@@ -69,13 +69,14 @@ class NativeTreeTest : public NativeFormsTest {
         return (item.state & TVIS_EXPANDED) != 0;
     }
     HTREEITEM Selected() const { return Next(nullptr, TVGN_CARET); }
-    // Of the node's text, or of its whole line.
+    // Of the node's text, or of its whole line; empty while the node is in a closed branch.
     RECT AreaOf(const char* key, bool text) const {
         RECT area{};
         const HTREEITEM native = Native(key);
         std::memcpy(&area, &native, sizeof(native));
-        SendMessageA(Tree(), TVM_GETITEMRECT, text ? TRUE : FALSE, reinterpret_cast<LPARAM>(&area));
-        return area;
+        const LRESULT shown = SendMessageA(Tree(), TVM_GETITEMRECT, text ? TRUE : FALSE,
+                                           reinterpret_cast<LPARAM>(&area));
+        return shown != FALSE ? area : RECT{};
     }
     void ClickNode(const char* key) {
         const RECT text = AreaOf(key, true);
