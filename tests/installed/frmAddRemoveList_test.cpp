@@ -137,12 +137,12 @@ TEST_F(InstalledList, ShowsEntriesWhoseKeysAreOddNames) {
 
 // Such a row would stand for the key of all entries.
 TEST_F(InstalledList, ShowsNoEntryWithoutAName) {
-    AddApp("");
+    SetText("", "DisplayName", "All");
+    SetText("", "UninstallString", "un.exe");
     AddApp("App");
     Registry().AddKey(AllUsers, KeyOf(std::string("\0hidden", 7)));
     Open();
-    EXPECT_EQ(List().RowCount(), 1u);
-    EXPECT_EQ(RowOf(""), nullptr);
+    EXPECT_EQ(Names(), RowTexts{"App"});
     EXPECT_EQ(Registry().SubKeysOf(AllUsers, KeyOf("")).size(), 2u);
 }
 
