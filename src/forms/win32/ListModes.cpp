@@ -48,7 +48,11 @@ int FindNearestIcon(HWND list, const POINT& from, UINT arrowKey) {
         const LONG right = place.x - from.x;
         const LONG down = place.y - from.y;
         if (i == focused || !LiesTowards(arrowKey, right, down)) continue;
-        const LONG distance = right * right + down * down;
+        // What lies aside counts more: an icon in line with this one is what the user means.
+        const bool inRow = arrowKey == VK_LEFT || arrowKey == VK_RIGHT;
+        const LONG along = inRow ? right : down;
+        const LONG aside = inRow ? down : right;
+        const LONG distance = along * along + 4 * aside * aside;
         if (nearest >= 0 && distance >= least) continue;
         nearest = i;
         least = distance;
