@@ -16,16 +16,25 @@ ErrorCode CopyWhole(FileSystem& files, const std::string& source, const std::str
     return copied == error::Success ? error::WriteFault : copied;
 }
 
+// Asked in two ways, since one that fails says that nothing is there, and that would be written
+// over.
+bool IsTaken(FileSystem& files, const std::string& path) {
+    return PathExists(files, path) || FileLength(files, path).has_value();
+}
+
 }  // namespace
 
 ErrorCode KeepFile(Application& application, const std::string& path) {
     FileSystem& files = application.machine.files;
-    const std::string folder = BackupFolder(application.settings.InstallFolder());
+    const std::string installed = application.settings.InstallFolder();
+    // A file that is kept somewhere isn't found again.
+    if (installed.empty()) return error::PathNotFound;
+    const std::string folder = BackupFolder(installed);
     const ErrorCode made = files.CreateDirectoryA(folder.substr(0, folder.size() - 1));
     if (made != error::Success && made != error::AlreadyExists) return made;
     const std::string copy =
         folder + BackupStem(application.machine.clock.GetLocalTime()) + "_" + FileNameOf(path);
-    if (!PathExists(files, copy)) return CopyWhole(files, path, copy);
+    if (!IsTaken(files, copy)) return CopyWhole(files, path, copy);
     // Kept a moment ago already; another file of that name and second isn't overwritten.
     return SameContent(files, path, copy) ? error::Success : error::AlreadyExists;
 }
@@ -37,7 +46,7 @@ ErrorCode MoveFileBetween(Application& application, const std::string& sourceFol
     const std::string source = sourceFolder + "\\" + name;
     const std::string destination = destinationFolder + "\\" + name;
     if (!PathExists(files, source)) return error::FileNotFound;
-    if (PathExists(files, destination)) {
+    if (IsTaken(files, destination)) {
         const ErrorCode kept = KeepFile(application, destination);
         if (kept != error::Success) return kept;
         files.DeleteFileA(destination);
