@@ -7,11 +7,15 @@ namespace velkarix {
 
 namespace {
 
+// Asked twice, since a value that only seemed to be gone would be deleted without having moved, or
+// written over.
 bool IsMissing(Application& application, Hive hive, const std::string& key,
                const std::string& valueName) {
     RawValue value;
-    return ReadRawValue(application.machine.registry, hive, key, valueName, value) ==
-           error::FileNotFound;
+    const auto look = [&] {
+        return ReadRawValue(application.machine.registry, hive, key, valueName, value);
+    };
+    return look() == error::FileNotFound && look() == error::FileNotFound;
 }
 
 }  // namespace
