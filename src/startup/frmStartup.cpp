@@ -139,11 +139,7 @@ void frmStartup::MakeLayout() {
 
 void frmStartup::Form_Load() {
     for (const auto& button : buttons_) SkinControl(*button, "button");
-    FileSystem& files = application_.machine.files;
-    for (const StartupFolder& folder : StartupFolders) {
-        const std::string held = FolderOfShortcuts(folder, false);
-        if (!PathExists(files, held)) files.CreateDirectoryA(held);
-    }
+    ResolveFolders();
     ClearStartupList();
     shortcuts_.emplace(application_.machine.shortcuts);
     const TreeNode* all = tvwStartup_.Find(AllNodes);

@@ -79,8 +79,10 @@ class frmStartup : public Form {
     void AddRow(const StartupItem& item, bool enabled);
     const SeenFile& LookAt(const std::string& path);
     std::size_t ImageOf(const std::string& file, int index);
-    // The folder that holds the shortcuts which are on, or off; empty when the system names none.
-    std::string FolderOfShortcuts(const StartupFolder& folder, bool enabled);
+    void ResolveFolders();
+    // The folder that holds the shortcuts which are on, or off, as it was when the page was loaded;
+    // empty when there is none.
+    const std::string& FolderOfShortcuts(const StartupFolder& folder, bool enabled) const;
     void MoveChecked(bool enabled);
     // False when it failed in a way that ends the command; the user knows.
     bool MoveShortcut(const StartupFolder& folder, const std::string& name, bool enabled);
@@ -90,8 +92,10 @@ class frmStartup : public Form {
     Application& application_;
     bool& toldOfShortcuts_;
     std::optional<ShortcutSource> shortcuts_;
+    std::map<std::pair<std::string, bool>, std::string> folders_;  // by location and state
     int iconIndex_ = 0;  // of the shortcut that was read last
-    // What this load of the list has looked at: many items start the same file.
+    // What this load of the list has looked at, by the path without case: many items start the
+    // same file.
     std::map<std::string, SeenFile> seenFiles_;
     std::map<std::pair<std::string, int>, std::size_t> seenIcons_;
     std::string currentNodeKey_;

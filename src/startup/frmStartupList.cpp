@@ -1,4 +1,5 @@
 // The list of the startup page: how it is filled.
+#include <utility>
 #include <vector>
 
 #include "base/Text.h"
@@ -68,9 +69,23 @@ void frmStartup::ScanRunKey(const RunKey& key, bool enabled) {
 
 // ---- Shortcuts
 
-std::string frmStartup::FolderOfShortcuts(const StartupFolder& folder, bool enabled) {
-    if (!enabled) return application_.settings.InstallFolder() + "\\" + folder.heldFolder;
-    return application_.registry.GetStringValue(folder.hive, ShellFolders, folder.valueName);
+void frmStartup::ResolveFolders() {
+    FileSystem& files = application_.machine.files;
+    const std::string installed = application_.settings.InstallFolder();
+    for (const StartupFolder& folder : StartupFolders) {
+        folders_[{folder.location, true}] =
+            application_.registry.GetStringValue(folder.hive, ShellFolders, folder.valueName);
+        if (installed.empty()) continue;  // what is held just anywhere isn't found again
+        std::string held = installed + "\\" + folder.heldFolder;
+        if (!PathExists(files, held)) files.CreateDirectoryA(held);
+        folders_[{folder.location, false}] = std::move(held);
+    }
+}
+
+const std::string& frmStartup::FolderOfShortcuts(const StartupFolder& folder, bool enabled) const {
+    static const std::string none;
+    const auto found = folders_.find({folder.location, enabled});
+    return found == folders_.end() ? none : found->second;
 }
 
 void frmStartup::LoadFolder(const char* location) {
@@ -109,7 +124,7 @@ void frmStartup::AddShortcutRow(const std::string& name, const Shortcut& shortcu
 // ---- Both
 
 const frmStartup::SeenFile& frmStartup::LookAt(const std::string& path) {
-    const auto [place, isNew] = seenFiles_.try_emplace(path);
+    const auto [place, isNew] = seenFiles_.try_emplace(ToLower(path));
     SeenFile& file = place->second;
     const Machine& machine = application_.machine;
     if (!isNew || !PathExists(machine.files, path)) return file;
@@ -121,7 +136,7 @@ const frmStartup::SeenFile& frmStartup::LookAt(const std::string& path) {
 }
 
 std::size_t frmStartup::ImageOf(const std::string& file, int index) {
-    const auto [place, isNew] = seenIcons_.try_emplace({file, index}, DefaultImage);
+    const auto [place, isNew] = seenIcons_.try_emplace({ToLower(file), index}, DefaultImage);
     if (isNew && PathExists(application_.machine.files, file)) {
         place->second = AddFileIcon(application_.machine.shell, imglStartup_, file, index);
     }
@@ -135,8 +150,10 @@ void frmStartup::AddRow(const StartupItem& item, bool enabled) {
     row.SetText(startupColumn::Location, item.location);
     row.SetText(startupColumn::Command, item.command);
     if (file.exists) {
-        row.SetText(startupColumn::File, FileNameOf(item.path));
-        row.SetText(startupColumn::Folder, FolderOf(item.path));
+        // Joined they give the path again, also where it begins with its only backslash.
+        const std::string name = FileNameOf(item.path);
+        row.SetText(startupColumn::File, name);
+        row.SetText(startupColumn::Folder, item.path.substr(0, item.path.size() - name.size()));
         ShowFileFacts(row, startupColumn::Facts, file.facts);
     }
     MarkRow(application_.appearance, row, enabled, file.suspicious);
