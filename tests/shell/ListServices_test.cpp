@@ -68,6 +68,42 @@ TEST_F(ListServicesTest, TurnsTheOrderRoundAtEveryClickWhateverTheColumn) {
     EXPECT_EQ(list.Order(), SortOrder::Descending);
 }
 
+TEST_F(ListServicesTest, TurnsTheOrderRoundAtASecondClickOnTheSameHeaderAlone) {
+    ColumnSort sort;
+    list.Sort(0, SortOrder::Ascending);
+    const auto click = [&](int column, SortOrder order) {
+        sort.Click(list, column);
+        EXPECT_TRUE(list.Sorted());
+        EXPECT_EQ(list.SortKey(), static_cast<std::size_t>(column));
+        EXPECT_EQ(list.Order(), order) << column;
+    };
+    click(1, SortOrder::Ascending);
+    click(1, SortOrder::Descending);
+    click(0, SortOrder::Descending);
+    click(1, SortOrder::Descending);
+    click(1, SortOrder::Ascending);
+}
+
+// Before the first click the list is sorted by its first column.
+TEST_F(ListServicesTest, TurnsTheOrderRoundAtAFirstClickOnTheFirstHeader) {
+    ColumnSort sort;
+    sort.Click(list, 0);
+    EXPECT_EQ(list.Order(), SortOrder::Descending);
+}
+
+TEST_F(ListServicesTest, SwitchesSortingOnAtAClick) {
+    ColumnSort sort;
+    list.EndSort();
+    sort.Click(list, 1);
+    EXPECT_TRUE(list.Sorted());
+    EXPECT_EQ(list.SortKey(), 1u);
+}
+
+TEST_F(ListServicesTest, SaysWhetherAnItemIsOn) {
+    EXPECT_STREQ(EnabledText(true), "True");
+    EXPECT_STREQ(EnabledText(false), "False");
+}
+
 TEST_F(ListServicesTest, AsksForTheColumnsToBeFitted) {
     struct : ControlView {
         void Changed(Aspect aspect) override { fitted += aspect == Aspect::ColumnWidths; }

@@ -129,6 +129,18 @@ TEST_F(ReportTest, MarksARowInTheColourOfTheSuspiciousAndTakesItsOwnLabel) {
               "Plain : two\r\nHere  : No\r\n");
 }
 
+// The words are for what stands behind the label; the file is found by the column's own text.
+TEST_F(ReportTest, WritesOtherWordsForAColumnWhereTheListHasThem) {
+    const auto words = [](const std::string& text) { return "<" + text + ">"; };
+    const ReportLine lines[] = {{"Name : ", ReportValue::ColumnWithRisk, 0, nullptr, words},
+                                {"On   : ", ReportValue::YesNo, 1, nullptr,
+                                 [](const std::string&) { return std::string("True"); }}};
+    list.Add("A", "one", 1).SetTextColor(program.application.appearance.SusColor);
+    EXPECT_TRUE(PrintReport(program.application, list, {lines, {}, "Failed: "}, Path));
+    EXPECT_EQ(Text(), "Name : <one> *******[Risk]*******\r\nOn   : Yes\r\n");
+    EXPECT_EQ(list.Row(0).Text(0), "one");
+}
+
 TEST_F(ReportTest, WritesTheVersionBlockOfTheRowsFileWhereTheListHasFiles) {
     program.machine.AddFile("C:\\a.dll").Version({{"ProductName", "Sample Suite"}});
     list.Add("A", "one", 1);
