@@ -167,9 +167,9 @@ TEST_F(MainFormTest, SwitchesPagesByKeys) {
 
 TEST_F(MainFormTest, SaysWhereAPageIsStillToCome) {
     program.Start();
-    Click("cmdStartup");
-    EXPECT_EQ(program.Get<Label>("frmStartup", "lblToCome").Text(),
-              "Startup: this page is not built yet. It comes with a later version of "
+    Click("cmdUtilities");
+    EXPECT_EQ(program.Get<Label>("frmUtilities", "lblToCome").Text(),
+              "Utilities: this page is not built yet. It comes with a later version of "
               "the program.");
 }
 
