@@ -113,6 +113,7 @@ const DisplayIconCase DisplayIconCases[] = {
     {"FolderWithBackslash", "C:\\Apps\\", "default", "C:\\Apps\\, 0"},
     {"Blanks", "   ", "default", "   , 0"},
     {"BlanksAroundTheFile", " C:\\Apps\\tool.exe", "default", " C:\\Apps\\tool.exe, 0"},
+    {"Variable", "%WinDir%\\tool.exe", "default", "%WinDir%\\tool.exe, 0"},
     {"QuotesAlone", "\"\"", "default", ""},
     {"CommaAlone", ",", "default", ""},
     {"IndexAlone", ",0", "default", ""},
