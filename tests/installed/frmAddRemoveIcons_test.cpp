@@ -66,6 +66,10 @@ struct DisplayIconCase {
     const char* asked;  // of the system; empty: nothing
 };
 
+void PrintTo(const DisplayIconCase& each, std::ostream* stream) {
+    *stream << each.value;
+}
+
 class DisplayIcon : public InstalledIcons, public testing::WithParamInterface<DisplayIconCase> {};
 
 TEST_P(DisplayIcon, TellsWhereTheIconIs) {
