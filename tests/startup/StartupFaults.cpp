@@ -116,8 +116,8 @@ class Fault {
         return !isKept || (!copySuffices && there != Arrived(item));
     }
 
-    static void Merge(const MemoryMachine& machine, MemoryHives& into) {
-        const auto text = machine.disk.ContentOf(KeptPath("Startup.reg"));
+    static void Merge(const MemoryMachine& machine, MemoryHives& into, bool later = false) {
+        const auto text = machine.disk.ContentOf(KeptPath("Startup.reg", later));
         if (text) MergeRegistryFile(into, *text);
     }
 
@@ -182,7 +182,12 @@ class Fault {
         const bool hasNamesake = std::any_of(
             scene_.items.begin(), scene_.items.end(),
             [&](const Item& other) { return other.mayGiveWay && other.name == item.name; });
-        return hasNamesake && machine.disk.ContentOf(KeptPath(item.name, true)) == item.content;
+        if (!hasNamesake || !item.IsValue()) {
+            return hasNamesake && machine.disk.ContentOf(KeptPath(item.name, true)) == item.content;
+        }
+        MemoryHives kept;
+        Merge(machine, kept, true);
+        return Standing(machine, kept, item, item.enabled) == Original(item);
     }
 
     static std::string Describe(const Item& item) {
