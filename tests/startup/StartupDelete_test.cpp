@@ -26,9 +26,9 @@ TEST_F(StartupDelete, AsksWithTheRowsText) {
     Open();
     Delete("Agent", MessageAnswer::No);
     EXPECT_EQ(Messages(), (RowTexts{Question("Agent")}));
-    EXPECT_EQ(program.desktop.messages[0].icon, MessageIcon::Question);
-    EXPECT_EQ(program.desktop.messages[0].buttons, MessageButtons::YesNo);
-    EXPECT_EQ(program.desktop.messages[0].title, "Velkarix");
+    EXPECT_EQ(program.desktop.messages.at(0).icon, MessageIcon::Question);
+    EXPECT_EQ(program.desktop.messages.at(0).buttons, MessageButtons::YesNo);
+    EXPECT_EQ(program.desktop.messages.at(0).title, "Velkarix");
     EXPECT_EQ(Machine().Journal().Calls().size(), 0u);
     EXPECT_EQ(List().SelectedRow(), RowNamed("Agent"));
 }
@@ -125,8 +125,8 @@ TEST_F(StartupDelete, RemovesNothingThatCanNotBeKept) {
         program.desktop.messages.clear();
         Delete(name);
         ASSERT_EQ(Messages().size(), 2u) << name;
-        EXPECT_EQ(Messages()[1].find("Error Occurred backupItem: \r\n"), 0u) << Messages()[1];
-        EXPECT_EQ(program.desktop.messages[1].icon, MessageIcon::Information);
+        EXPECT_EQ(Messages().at(1).find("Error Occurred backupItem: \r\n"), 0u) << Messages().at(1);
+        EXPECT_EQ(program.desktop.messages.at(1).icon, MessageIcon::Information);
     }
     EXPECT_EQ(Items(), before);
     EXPECT_EQ(Machine().registry.TextAt(Hive::LocalMachine, LiveRun, "Agent"), "C:\\a.exe");
@@ -137,7 +137,7 @@ TEST_F(StartupDelete, RemovesNoShortcutWhoseCopyIsShort) {
     Open();
     Machine().disk.SetFreeBytes(20);
     Delete("a.lnk");
-    EXPECT_EQ(Messages()[1], "Error Occurred backupItem: \r\n" + ErrorText(error::DiskFull));
+    EXPECT_EQ(Messages().at(1), "Error Occurred backupItem: \r\n" + ErrorText(error::DiskFull));
     EXPECT_EQ(Items(), (RowTexts{"a.lnk, Startup CU, True"}));
     EXPECT_FALSE(HasFile(std::string(KeptStem) + "a.lnk"));
 }
@@ -147,11 +147,11 @@ TEST_F(StartupDelete, TellsWhatCanNotBeRemovedAndShowsItStill) {
     PutShortcut(Machine(), LiveCU, "a.lnk", "C:\\a.exe").ReadOnly();
     Open();
     Delete("a.lnk");
-    EXPECT_EQ(Messages()[1],
+    EXPECT_EQ(Messages().at(1),
               "Error Occurred Delete Startup: \r\n" + ErrorText(error::AccessDenied));
     Machine().FailNext("RegDeleteValueA");
     Delete("Agent");
-    EXPECT_EQ(Messages()[3].find("Following Key Value Could not be deleted: "), 0u);
+    EXPECT_EQ(Messages().at(3).find("Following Key Value Could not be deleted: "), 0u);
     EXPECT_EQ(Items(), (RowTexts{"a.lnk, Startup CU, True", "Agent, HKLM\\Run, True"}));
 }
 

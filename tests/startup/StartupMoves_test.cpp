@@ -60,8 +60,8 @@ TEST_F(StartupMoves, WriteAnEmptyTextForAValueThatIsGone) {
     EXPECT_TRUE(Move("Item"));
     EXPECT_EQ(At(Held, "Item"), (MemoryValue{"Item", registryType::Sz, {0}}));
     ASSERT_EQ(desktop.messages.size(), 1u);
-    EXPECT_EQ(desktop.messages[0].icon, MessageIcon::Critical);
-    EXPECT_EQ(desktop.messages[0].text.find("Following Key Value Could not be deleted: "), 0u);
+    EXPECT_EQ(desktop.messages.at(0).icon, MessageIcon::Critical);
+    EXPECT_EQ(desktop.messages.at(0).text.find("Following Key Value Could not be deleted: "), 0u);
 }
 
 TEST_F(StartupMoves, LeaveWhatStandsAtTheDestinationOfAValueThatIsGone) {

@@ -181,8 +181,8 @@ TEST_F(StartupShortcuts, AreNotListedWhereNothingReadsThemAndTheUserHearsItOnce)
     EXPECT_EQ(Names(), (RowTexts{"b"}));
     EXPECT_EQ(List().SelectedRow(), RowNamed("b"));
     EXPECT_EQ(Messages(), (RowTexts{CanNotRead}));
-    EXPECT_EQ(program.desktop.messages[0].icon, MessageIcon::Information);
-    EXPECT_EQ(program.desktop.messages[0].title, "Velkarix");
+    EXPECT_EQ(program.desktop.messages.at(0).icon, MessageIcon::Information);
+    EXPECT_EQ(program.desktop.messages.at(0).title, "Velkarix");
     for (const char* key : {"CUStartup", "LMStartup"}) ClickNode(key);
     EXPECT_EQ(List().RowCount(), 0u);
     LeaveAndComeBack();

@@ -99,7 +99,7 @@ TEST_F(StartupChanges, GoOnWithTheNextRowWhereAValueCanNotBeMoved) {
     Machine().FailNext("RegDeleteValueA");
     Click("cmdDisable");
     ASSERT_EQ(Messages().size(), 1u);
-    EXPECT_EQ(Messages()[0].find("Following Key Value Could not be deleted: "), 0u);
+    EXPECT_EQ(Messages().at(0).find("Following Key Value Could not be deleted: "), 0u);
     EXPECT_EQ(Items(),
               (RowTexts{"a, HKCU\\Run, True", "a, HKCU\\Run, False", "b, HKCU\\Run, False"}));
 }
@@ -113,7 +113,7 @@ TEST_F(StartupChanges, ShowAnEmptyCommandOfAValueThatWasGone) {
     EXPECT_EQ(Items(), (RowTexts{"a, HKCU\\Run, False"}));
     EXPECT_EQ(List().Row(0).Text(startupColumn::Command), "");
     ASSERT_EQ(Messages().size(), 1u);
-    EXPECT_EQ(Messages()[0].find("Following Key Value Could not be deleted: "), 0u);
+    EXPECT_EQ(Messages().at(0).find("Following Key Value Could not be deleted: "), 0u);
 }
 
 TEST_F(StartupChanges, RefreshTheNodeThatIsSelected) {
@@ -195,8 +195,8 @@ TEST_F(StartupChanges, StopAtAShortcutThatCanNotBeMovedWithoutARefresh) {
         Click(disable ? "cmdDisable" : "cmdEnable");
         EXPECT_EQ(Messages(), (RowTexts{Told(disable ? "Disable Startup" : "Enable Startup",
                                              error::SharingViolation)}));
-        EXPECT_EQ(program.desktop.messages[0].icon, MessageIcon::Information);
-        EXPECT_EQ(program.desktop.messages[0].title, "Velkarix");
+        EXPECT_EQ(program.desktop.messages.at(0).icon, MessageIcon::Information);
+        EXPECT_EQ(program.desktop.messages.at(0).title, "Velkarix");
         EXPECT_EQ(Items(), before);
         EXPECT_FALSE(Has(from, "a.lnk"));
         EXPECT_TRUE(Has(from, "b.lnk"));

@@ -43,6 +43,7 @@ TEST_F(StartupValues, ShowThreeColumnsWhereTheFileIsGone) {
     EXPECT_EQ(RowAt(1),
               (RowTexts{"Held", "False", "HKCU\\Run", "nothing", "", "", "", "", "", "", ""}));
     EXPECT_EQ(List().Row(0).Image(), 1u);
+    EXPECT_EQ(Machine().Journal().CountOf("ExtractIconExA"), 0u);
     EXPECT_FALSE(List().Row(0).TextColor().has_value());
     EXPECT_EQ(List().Row(1).TextColor(), DisabledColor);
 }

@@ -133,7 +133,7 @@ TEST_F(StartupReport, TellsWhyItCanNotBeWritten) {
     EXPECT_FALSE(Page().printReport(Path));
     EXPECT_EQ(Messages(), (RowTexts{"Error Occurred Startup printReport: \r\n" +
                                     ErrorText(error::AccessDenied)}));
-    EXPECT_EQ(program.desktop.messages[0].icon, MessageIcon::Information);
+    EXPECT_EQ(program.desktop.messages.at(0).icon, MessageIcon::Information);
     EXPECT_EQ(TextOf(Path), "old");
 }
 
@@ -149,7 +149,7 @@ TEST_F(StartupReport, SaysThatThereIsNothingToPrint) {
     Open();
     Click("cmdReport");
     EXPECT_EQ(Messages(), (RowTexts{"No Startup items to print"}));
-    EXPECT_EQ(program.desktop.messages[0].icon, MessageIcon::Information);
+    EXPECT_EQ(program.desktop.messages.at(0).icon, MessageIcon::Information);
     EXPECT_TRUE(program.desktop.saveRequests.empty());
 }
 
