@@ -53,6 +53,14 @@ std::vector<Item> TwoFiles(bool enabled) {
     return items;
 }
 
+std::vector<Item> TwoValues(bool enabled) {
+    std::vector<Item> items = {
+        Value("HKCU\\Run", "a", enabled, registryType::Sz, Text("new")),
+        Value("HKCU\\Run", "a", !enabled, registryType::ExpandSz, Text("old"), false)};
+    items[1].mayGiveWay = true;
+    return items;
+}
+
 // What a move that was cut short has left.
 std::vector<Item> SameFiles(bool enabled) {
     return {File("Startup LM", "a.lnk", enabled, "/same"),
@@ -78,6 +86,7 @@ TEST_F(StartupFaults, LeaveEveryItemWholeWhenItIsMoved) {
             runner_.Run(CommandOf({"values", action, Values(enabled), system}));
             runner_.Run(CommandOf({"shortcuts", action, Files(enabled), system}));
         }
+        runner_.Run(CommandOf({"values of one name", action, TwoValues(enabled)}));
         runner_.Run(CommandOf({"shortcuts of one name", action, TwoFiles(enabled)}));
         runner_.Run(CommandOf({"the same shortcut twice", action, SameFiles(enabled)}));
     }
