@@ -1,6 +1,5 @@
 #include "startup/frmStartup.h"
 
-#include <algorithm>
 #include <iterator>
 
 #include "shell/FilePaths.h"
@@ -12,76 +11,6 @@
 namespace velkarix {
 
 namespace {
-
-constexpr const char* AllNodes = "All";
-
-struct NodeEntry {
-    const char* key;
-    const char* text;
-    const char* picture;
-    const char* parent;
-    bool expanded;
-    // What the list shows of the node, in this order; null ends it.
-    void (frmStartup::*loads[4])();
-    const char* selection;  // as the caption names it
-};
-
-constexpr NodeEntry Nodes[] = {
-    {AllNodes,
-     "All Items",
-     "AllItems",
-     "",
-     true,
-     {&frmStartup::LoadHKLMRun, &frmStartup::LoadHKCURun, &frmStartup::LoadCUStartupFolder,
-      &frmStartup::LoadLMStartupFolder},
-     "All Items"},
-    {"LM",
-     "Local Machine",
-     "Computer",
-     AllNodes,
-     true,
-     {&frmStartup::LoadHKLMRun, &frmStartup::LoadLMStartupFolder},
-     "Local Machine"},
-    {"HKLM",
-     "Registry",
-     "Registry",
-     "LM",
-     false,
-     {&frmStartup::LoadHKLMRun},
-     "Local Machine Regitry"},
-    {"LMStartup",
-     "Startup Folder",
-     "Folder",
-     "LM",
-     false,
-     {&frmStartup::LoadLMStartupFolder},
-     "Local Machine Startup Folder"},
-    {"CU",
-     "Current User",
-     "User",
-     AllNodes,
-     true,
-     {&frmStartup::LoadHKCURun, &frmStartup::LoadCUStartupFolder},
-     "Current User"},
-    {"HKCU",
-     "Registry",
-     "Registry",
-     "CU",
-     false,
-     {&frmStartup::LoadHKCURun},
-     "Current User Registry"},
-    {"CUStartup",
-     "Startup Folder",
-     "Folder",
-     "CU",
-     false,
-     {&frmStartup::LoadCUStartupFolder},
-     "Current User Startup Folder"},
-};
-
-std::string CaptionOf(const char* selection) {
-    return std::string("Startup Items (Current Selection: ") + selection + ")";
-}
 
 struct ButtonEntry {
     const char* name;
@@ -109,7 +38,7 @@ frmStartup::frmStartup(Application& application, bool& toldOfShortcuts)
       toldOfShortcuts_(toldOfShortcuts),
       tvwStartup_("tvwStartup", "Places that Windows starts programs from",
                   [this](const TreeNode& node) { tvwStartup_NodeClick(node); }),
-      fmStartup_("fmStartup", CaptionOf(Nodes[0].selection)),
+      fmStartup_("fmStartup", "Startup Items (Current Selection: All Items)"),
       lstvStartup_("lstvStartup", "Startup items",
                    {std::begin(StartupColumnCaptions), std::end(StartupColumnCaptions)},
                    {[this](ListRow& row) { lstvStartup_ItemClick(row); },
@@ -142,9 +71,7 @@ void frmStartup::Form_Load() {
     ResolveFolders();
     ClearStartupList();
     shortcuts_.emplace(application_.machine.shortcuts);
-    const TreeNode* all = tvwStartup_.Find(AllNodes);
-    tvwStartup_.Select(all);
-    tvwStartup_NodeClick(*all);
+    cmdRefresh_Click();  // no node is selected yet: it shows all items
     lstvStartup_.Sort(startupColumn::Name, SortOrder::Ascending);
     if (lstvStartup_.RowCount() > 0) lstvStartup_.Select(&lstvStartup_.Row(0));
     if (!shortcuts_->Available() && !toldOfShortcuts_) {
@@ -153,25 +80,6 @@ void frmStartup::Form_Load() {
                           "Shortcuts can't be read on this system. The shortcuts in the startup "
                           "folders are not listed.");
     }
-}
-
-void frmStartup::BuildStartupTree() {
-    for (const NodeEntry& node : Nodes) {
-        tvwStartup_.Add(node.key, node.text, node.picture, node.parent, node.expanded);
-    }
-}
-
-void frmStartup::tvwStartup_NodeClick(const TreeNode& node) {
-    if (node.key == currentNodeKey_) return;
-    const auto* entry = std::find_if(std::begin(Nodes), std::end(Nodes),
-                                     [&](const NodeEntry& each) { return node.key == each.key; });
-    ClearStartupList();
-    for (const auto load : entry->loads) {
-        if (load != nullptr) (this->*load)();
-    }
-    fmStartup_.SetText(CaptionOf(entry->selection));
-    AutoSizeColumns(lstvStartup_);
-    currentNodeKey_ = node.key;
 }
 
 // The button works on the folder alone.
@@ -204,12 +112,6 @@ void frmStartup::cmdFolder_Click() {
     const ListRow* row = lstvStartup_.SelectedRow();
     if (row == nullptr || !PathExists(application_.machine.files, StartupFile(*row))) return;
     ShowInExplorer(application_.machine.shell, application_.MainWindow(), StartupFile(*row));
-}
-
-void frmStartup::cmdRefresh_Click() {
-    if (tvwStartup_.SelectedNode() == nullptr) tvwStartup_.Select(tvwStartup_.Find(AllNodes));
-    currentNodeKey_.clear();
-    tvwStartup_NodeClick(*tvwStartup_.SelectedNode());
 }
 
 }  // namespace velkarix
