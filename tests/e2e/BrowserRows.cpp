@@ -179,19 +179,6 @@ const std::map<const BrowserList*, Expected> Lists = {
 
 }  // namespace
 
-COLORREF ColorOf(Mark mark) {
-    switch (mark) {
-        case Suspicious:
-            return RGB(255, 0, 0);
-        case Disabled:
-            return RGB(128, 128, 128);
-        case SuspiciousAndDisabled:
-            return RGB(64, 0, 0);
-        default:
-            return GetSysColor(COLOR_WINDOWTEXT);
-    }
-}
-
 const std::vector<std::string>& ColumnsOf(const BrowserList& list) {
     return Lists.at(&list).columns;
 }

@@ -1,20 +1,14 @@
 // What each list of the browser page is to show on the sample machine.
 #pragma once
 
-#include <windows.h>
-
 #include <string>
 #include <vector>
 
 #include "BrowserItems.h"
 #include "ListWindow.h"
+#include "Marks.h"
 
 namespace velkarix::e2e {
-
-enum class Mark { None, Suspicious, Disabled, SuspiciousAndDisabled };
-
-// The colour of a marked row's texts, as the program comes.
-COLORREF ColorOf(Mark mark);
 
 struct BrowserRow {
     RowTexts texts;

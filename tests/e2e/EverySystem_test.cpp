@@ -67,14 +67,15 @@ TEST_F(EverySystem, RefreshShowsWhatHasStarted) {
 
 TEST_F(EverySystem, EachPageCanBeEntered) {
     Start();
-    for (const char* each : {"Startup", "Addremove", "Utilities"}) {
-        ASSERT_TRUE(Running().Press(std::string("cmd") + each));
-        EXPECT_TRUE(Running().Control("lblToCome").Visible()) << each;
+    const std::pair<const char*, const char*> pages[] = {{"cmdIE", "lstvBHO"},
+                                                         {"cmdStartup", "lstvStartup"},
+                                                         {"cmdAddremove", "lstvAddRemove"},
+                                                         {"cmdOptions", "lstvBackup"},
+                                                         {"cmdUtilities", "lblToCome"}};
+    for (const auto& [button, control] : pages) {
+        ASSERT_TRUE(Running().Press(button));
+        EXPECT_TRUE(Running().Control(control).Visible()) << control;
     }
-    ASSERT_TRUE(Running().Press("cmdIE"));
-    EXPECT_TRUE(Running().Control("lstvBHO").Visible());
-    ASSERT_TRUE(Running().Press("cmdOptions"));
-    EXPECT_TRUE(Running().Control("lstvBackup").Visible());
     ASSERT_TRUE(Running().Press("cmdProcess"));
     EXPECT_TRUE(List().Find("SampleIdle.exe"));
 }

@@ -157,6 +157,10 @@ RECT ListWindow::LabelArea(int row) const {
     return Area(row, LVIR_LABEL);
 }
 
+RECT ListWindow::IconArea(int row) const {
+    return Area(row, LVIR_ICON);
+}
+
 POINT ListWindow::CheckBox(int row) const {
     const RECT bounds = Area(row, LVIR_BOUNDS);
     const RECT icon = Area(row, LVIR_ICON);

@@ -37,6 +37,7 @@ class ListWindow : public Window {
     // Where things are, on the screen.
     RECT RowArea(int row) const;
     RECT LabelArea(int row) const;  // of the row's text in column 0
+    RECT IconArea(int row) const;
     POINT CheckBox(int row) const;
     POINT Header(int column) const;
 

@@ -66,12 +66,10 @@ TEST_F(PageStrip, CtrlAndADigitLeadsToThePageOfThatNumber) {
 }
 
 TEST_F(PageStrip, APageThatIsNotBuiltYetSaysSo) {
-    for (const PageEntry& each : {Pages[2], Pages[3], Pages[5]}) {
-        ASSERT_TRUE(Running().Press(each.button));
-        const std::string text = Running().Control("lblToCome").Text();
-        EXPECT_NE(text.find("not built yet"), std::string::npos) << each.page;
-        EXPECT_EQ(text.find(each.text), 0u) << text;
-    }
+    ASSERT_TRUE(Running().Press("cmdUtilities"));
+    const std::string text = Running().Control("lblToCome").Text();
+    EXPECT_NE(text.find("not built yet"), std::string::npos) << text;
+    EXPECT_EQ(text.find("Utilities"), 0u) << text;
 }
 
 TEST_F(PageStrip, AClickOnTheActivePagesButtonKeepsRowsOrderAndSelection) {

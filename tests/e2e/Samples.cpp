@@ -19,7 +19,9 @@ struct SampleVersion {
 };
 constexpr SampleVersion Versions[] = {
     {"SampleIdle.exe", "Harmless idle program", "Sleeps until it is ended"},
+    {"SampleSafe.exe", "Harmless safe program", "To be put on the safe list"},
     {"SampleSuspect.exe", "Harmless suspect", "The definition lists name this file"},
+    {"SampleTray.exe", "Harmless tray program", "Found by its bare name"},
     {"SampleHelper.dll", "Harmless helper object", "Helps nobody"},
     {"SampleSnoop.dll", "Harmless snoop", "The definition lists name this file"},
     {"SampleTracker.dll", "Harmless tracker", "The definition lists name its class"},
@@ -33,7 +35,7 @@ constexpr std::size_t FactCount = 12;
 
 const SampleVersion* VersionOf(const std::string& path) {
     for (const SampleVersion& version : Versions) {
-        if (path == SamplePath(version.file)) return &version;
+        if (path.ends_with(std::string("\\") + version.file)) return &version;
     }
     return nullptr;
 }
@@ -87,6 +89,12 @@ RowTexts VersionFacts(const std::string& path) {
             "None",
             "",
             ""};
+}
+
+std::string SearchedSamplePath() {
+    std::array<char, MAX_PATH> folder{};
+    GetWindowsDirectoryA(folder.data(), MAX_PATH);
+    return std::string(folder.data()) + "\\SampleTray.exe";
 }
 
 std::string SystemSamplePath() {

@@ -4,6 +4,7 @@
 #include "ProgramTest.h"
 #include "Screen.h"
 #include "TabWindow.h"
+#include "TreeWindow.h"
 #include "Wait.h"
 
 namespace velkarix::e2e {
@@ -16,8 +17,6 @@ struct Stop {
 };
 
 const Stop OtherPages[] = {
-    {"cmdStartup", "frmStartup", "3-startup"},
-    {"cmdAddremove", "frmAddRemove", "4-add-remove"},
     {"cmdOptions", "frmOptions", "5-options"},
     {"cmdUtilities", "frmUtilities", "6-utilities"},
 };
@@ -102,6 +101,24 @@ TEST_F(Tour, TheViewsOfTheBrowserPage) {
         ASSERT_TRUE(WaitUntil([&] { return tabs.Selected() == tab; }));
         EXPECT_TRUE(Picture(picture));
     }
+}
+
+TEST_F(Tour, TheStartupItems) {
+    ASSERT_TRUE(Running().Press("cmdStartup"));
+    EXPECT_TRUE(Picture("3-startup-1-all"));
+    const TreeWindow places(Running().Control("tvwStartup"));
+    const Window frame = Running().Control("fmStartup");
+    const std::string before = frame.Text();
+    ClickAt(Inside(places.LabelArea("All Items/Local Machine/Startup Folder")));
+    ASSERT_TRUE(WaitUntil([&] { return frame.Text() != before; }));
+    EXPECT_TRUE(Picture("3-startup-2-folder"));
+}
+
+TEST_F(Tour, TheInstalledApplications) {
+    ASSERT_TRUE(Running().Press("cmdAddremove"));
+    EXPECT_TRUE(Picture("4-add-remove-1-icons"));
+    ASSERT_TRUE(Running().Press("optReport"));
+    EXPECT_TRUE(Picture("4-add-remove-2-details"));
 }
 
 TEST_F(Tour, TheOtherPages) {
