@@ -1,5 +1,5 @@
-// Puts the shortcuts of the sample machine where Windows starts them from, and disabled ones into the
-// folder of Velkarix, which is its only argument.
+// Puts the shortcuts of the sample machine where Windows starts them from, and disabled ones into
+// the folder of Velkarix, which is its only argument.
 #include <windows.h>
 
 // The header of the shell's objects needs the system's before it.
