@@ -1,5 +1,6 @@
 #include "shell/FileMove.h"
 
+#include "base/Text.h"
 #include "shell/BackupSet.h"
 #include "shell/FileCompare.h"
 #include "shell/FilePaths.h"
@@ -45,6 +46,8 @@ ErrorCode MoveFileBetween(Application& application, const std::string& sourceFol
     FileSystem& files = application.machine.files;
     const std::string source = sourceFolder + "\\" + name;
     const std::string destination = destinationFolder + "\\" + name;
+    // To make room for the file there would take it away here.
+    if (ToLower(source) == ToLower(destination)) return error::AlreadyExists;
     if (!PathExists(files, source)) return error::FileNotFound;
     if (IsTaken(files, destination)) {
         const ErrorCode kept = KeepFile(application, destination);

@@ -140,6 +140,12 @@ TEST_F(FileMoveTest, StandsInBothFoldersWhereTheSourceCanNotBeDeleted) {
     EXPECT_EQ(TextOf(Target), "new");
 }
 
+TEST_F(FileMoveTest, MovesNoFileToWhereItIs) {
+    EXPECT_EQ(MoveFileBetween(application, From, "c:\\FROM", "a.lnk"), error::AlreadyExists);
+    EXPECT_EQ(TextOf(Source), "new");
+    EXPECT_EQ(TextOf(Copy), "(no file)");
+}
+
 TEST_F(FileMoveTest, TellsWhatFailed) {
     using Names = std::pair<const char*, const char*>;
     for (const auto& [from, to] : {Names{"", To}, Names{From, ""}, Names{From, "C:\\Gone"}}) {
