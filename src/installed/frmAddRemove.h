@@ -57,7 +57,8 @@ class frmAddRemove : public Form {
     Application& application_;
     std::int16_t CurrentView_;
     ColumnSort sort_;
-    std::map<std::pair<std::string, int>, AppIcon> icons_;  // of this load of the list
+    // Of this load of the list, by the path without case.
+    std::map<std::pair<std::string, int>, AppIcon> icons_;
 
     ListView lstvAddRemove_;
     ImageList imglAddRemove_;

@@ -97,7 +97,7 @@ std::string frmAddRemove::FileInCache(const std::string& subKey) {
 frmAddRemove::AppIcon frmAddRemove::AddAppIcon(const std::string& file, int iconIndex) {
     if (file.empty()) return {DefaultImage, DefaultImage};
     const auto [place, isNew] =
-        icons_.try_emplace({file, iconIndex}, AppIcon{DefaultImage, DefaultImage});
+        icons_.try_emplace({ToLower(file), iconIndex}, AppIcon{DefaultImage, DefaultImage});
     if (isNew) {
         IconPictures icon = clsIcon(application_.machine.shell).GetIcons(file, iconIndex);
         // Both or none, so that a row doesn't show different icons in the two views.

@@ -263,7 +263,8 @@ TEST_F(InstalledIcons, OfEachApplicationAreItsOwn) {
 
 TEST_F(InstalledIcons, AreEachTakenOnceInALoad) {
     AddIcon(ToolFile, 0, 1).Icon(3, LargeIcon(2), SmallIcon(2));
-    for (const char* name : {"A", "B", "C"}) AddAppWithIcon(name, ToolFile);
+    for (const char* name : {"A", "B"}) AddAppWithIcon(name, ToolFile);
+    AddAppWithIcon("C", "c:\\APPS\\Tool.exe");
     for (const char* name : {"D", "E"}) AddAppWithIcon(name, "C:\\Apps\\tool.exe,3");
     for (const char* name : {"F", "G"}) AddAppWithIcon(name, "C:\\none.exe");
     AddApp("H");
