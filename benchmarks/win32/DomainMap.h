@@ -1,8 +1,7 @@
-// A zone map of the current user that is the benchmark's own: the calling process sees a key of the
-// benchmark in the place of HKEY_CURRENT_USER. It goes with all that is in it.
+// A zone map of the current user that is the benchmark's own.
 #pragma once
 
-#include <string>
+#include "OwnHive.h"
 
 namespace velkarix {
 
@@ -11,19 +10,16 @@ class DomainMap {
     // Of this many live domains in zone 4, and no held one. Nine of ten hold the zone themselves,
     // the tenth in its subkey for "www" and the scheme "https".
     explicit DomainMap(int domains);
-    ~DomainMap();
-    DomainMap(const DomainMap&) = delete;
-    DomainMap& operator=(const DomainMap&) = delete;
 
     // Has the process see this map and no other one. False when it can't.
-    bool Use() const;
+    bool Use() const { return hive_.Use(); }
 
     static constexpr const char* Live =
         "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\ZoneMap\\Domains";
     static constexpr const char* Held = "Software\\Velkarix\\Disabled\\Domains";
 
   private:
-    std::string key_;
+    OwnHive hive_;
 };
 
 }  // namespace velkarix
