@@ -8,8 +8,10 @@
 namespace velkarix {
 namespace {
 
-// An odd number, so that one of the runs is the median.
-constexpr int RepetitionCount = 7;
+// Odd numbers, so that one of the rounds is the median.
+constexpr std::size_t MostRounds = 7;
+constexpr std::size_t LeastRounds = 3;
+constexpr double LongTime = 15;  // seconds, after which the least is enough
 
 }  // namespace
 
@@ -23,7 +25,9 @@ double Now() {
 
 std::vector<double> MedianSeconds(const std::vector<Work>& works) {
     std::vector<std::vector<double>> seconds(works.size());
-    for (int i = 0; i < RepetitionCount; ++i) {
+    const double begin = Now();
+    for (std::size_t round = 0; round < MostRounds; ++round) {
+        if (round >= LeastRounds && round % 2 == 1 && Now() - begin > LongTime) break;
         for (std::size_t work = 0; work < works.size(); ++work) {
             if (works[work].prepare) works[work].prepare();
             const double start = Now();
@@ -32,9 +36,11 @@ std::vector<double> MedianSeconds(const std::vector<Work>& works) {
         }
     }
     std::vector<double> medians;
-    for (std::vector<double>& each : seconds) {
+    for (std::size_t work = 0; work < works.size(); ++work) {
+        std::vector<double>& each = seconds[work];
         std::sort(each.begin(), each.end());
-        medians.push_back(each[RepetitionCount / 2]);
+        medians.push_back(each[each.size() / 2]);
+        std::printf("%s: %.1f ms\n", works[work].name.c_str(), medians.back() * 1e3);
     }
     return medians;
 }

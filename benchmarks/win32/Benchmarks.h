@@ -19,8 +19,10 @@ bool MeasureDomains();
 double Now();  // seconds
 
 // The median of the seconds of each piece of work, run in turn, so that a slow moment of the
-// machine hits all of them. `prepare` comes before each run and isn't counted.
+// machine hits all of them; seven times, or as few as three where that takes long. `prepare` comes
+// before each run and isn't counted. Prints each median below the work's name.
 struct Work {
+    std::string name;
     std::function<void()> run;
     std::function<void()> prepare = {};
 };

@@ -3,21 +3,14 @@
 
 #include <cstddef>
 
-#include "DefineForms.h"
+#include "BenchProgram.h"
 #include "browser/frmIE.h"
-#include "platform/win32/Win32Machine.h"
-#include "shell/Application.h"
-#include "tests/machine/RecordingDesktop.h"
 
 namespace velkarix {
 
 class DomainPage {
   public:
-    DomainPage() {
-        DefineForms(application_);
-        application_.DisabledRoot = "Software\\Velkarix\\Disabled\\";
-        application_.forms.Show("frmIE");
-    }
+    DomainPage() { program_.application.forms.Show("frmIE"); }
 
     void Load() { Page().LoadDomains(); }
     void Click(const char* button) { Page().Find(button)->Raise("Click"); }
@@ -37,17 +30,15 @@ class DomainPage {
     }
     std::size_t RowCount() { return List().RowCount(); }
 
-    Application& Program() { return application_; }
+    modRegistry& Registry() { return program_.application.registry; }
 
   private:
     static constexpr int Often = 20;
 
-    frmIE& Page() { return static_cast<frmIE&>(*application_.forms.Loaded("frmIE")); }
-    ListView& List() { return dynamic_cast<ListView&>(*Page().Find("lstvDomains")); }
+    frmIE& Page() { return static_cast<frmIE&>(*program_.application.forms.Loaded("frmIE")); }
+    ListView& List() { return program_.Get<ListView>("frmIE", "lstvDomains"); }
 
-    Win32Machine win32_;
-    RecordingDesktop desktop_;
-    Application application_{win32_.Parts(), desktop_};
+    BenchProgram program_;
 };
 
 }  // namespace velkarix

@@ -68,38 +68,42 @@ void Use(const DomainMap& map) {
     if (!map.Use()) failed = true;
 }
 
-std::vector<Work> LoadWorks(const DomainMap& map, DomainPage& page, int domains) {
-    return {{[&] { ReadAll(page.Program().registry); }, [&] { Use(map); }},
-            {[&page, domains] {
-                page.Load();
-                if (page.RowCount() != static_cast<std::size_t>(domains)) failed = true;
-            }},
-            {[&] { page.CheckAll(); }},
-            {[&] { page.Sort(); }}};
+// Loads the list as it stands in the map.
+void Load(DomainPage& page, int domains) {
+    page.Load();
+    if (page.RowCount() != static_cast<std::size_t>(domains)) failed = true;
 }
 
-// All works begin with no domain held; the first `moved` ones of the map move.
-std::vector<Work> MoveWorks(const DomainMap& map, DomainPage& page, int moved) {
-    const auto prepare = [&map, &page, moved] {
+enum LoadWork : std::size_t { Loads, Checks, Sorts, LoadWorkCount };
+std::vector<Work> LoadWorks(const DomainMap& map, DomainPage& page, int domains) {
+    const std::string of = " of " + std::to_string(domains);
+    return {{"LoadDomains" + of, [&page, domains] { Load(page, domains); }, [&map] { Use(map); }},
+            {"Check All" + of + " (20 times)", [&page] { page.CheckAll(); }},
+            {"sort" + of + " (20 times)", [&page] { page.Sort(); }}};
+}
+
+// The first `moved` of the map's domains move. The first two begin with none held, the last one
+// with the list that the one before it loaded.
+enum MoveWork : std::size_t { Copies, LoadsToMove, Disables, MoveWorkCount };
+std::vector<Work> MoveWorks(const DomainMap& map, DomainPage& page, int domains, int moved) {
+    const std::string of = " of " + std::to_string(domains);
+    const auto moveBack = [&map, &page, moved] {
         Use(map);
-        MoveFirst(page.Program().registry, DomainMap::Held, DomainMap::Live, moved);
+        MoveFirst(page.Registry(), DomainMap::Held, DomainMap::Live, moved);
     };
-    const auto prepareList = [&page, moved, prepare] {
-        prepare();
-        page.Load();
-        page.CheckFirst(moved);
+    const auto moveBarely = [&page, moved] {
+        MoveFirst(page.Registry(), DomainMap::Live, DomainMap::Held, moved);
     };
-    return {{[&page, moved] {
-                 MoveFirst(page.Program().registry, DomainMap::Live, DomainMap::Held, moved);
-             },
-             prepare},
-            {[&page, moved] {
-                 page.Click("cmdDomainDisable");
-                 std::vector<std::string> held;
-                 page.Program().registry.EnumSubKeys(Hive::CurrentUser, DomainMap::Held, held);
-                 if (held.size() != static_cast<std::size_t>(moved)) failed = true;
-             },
-             prepareList}};
+    const auto disable = [&page, moved] {
+        page.Click("cmdDomainDisable");
+        std::vector<std::string> held;
+        page.Registry().EnumSubKeys(Hive::CurrentUser, DomainMap::Held, held);
+        if (held.size() != static_cast<std::size_t>(moved)) failed = true;
+    };
+    const std::string some = " " + std::to_string(moved) + of;
+    return {{"copies and deletes of" + some, moveBarely, moveBack},
+            {"LoadDomains" + of, [&page, domains] { Load(page, domains); }, moveBack},
+            {"Disable of" + some, disable, [&page, moved] { page.CheckFirst(moved); }}};
 }
 
 std::vector<Work> Join(std::vector<Work> first, const std::vector<Work>& second) {
@@ -107,43 +111,35 @@ std::vector<Work> Join(std::vector<Work> first, const std::vector<Work>& second)
     return first;
 }
 
-void PrintTimes(const char* of, const double* seconds, const std::vector<const char*>& names) {
-    std::printf("%s domains:", of);
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        std::printf(" %s %.1f ms", names[i], seconds[i] * 1e3);
-    }
-    std::printf("\n");
-}
-
 void MeasureLoads(const DomainMap& half, const DomainMap& whole, DomainPage& page) {
-    const std::vector<double> seconds =
-        MedianSeconds(Join(LoadWorks(half, page, Many / 2), LoadWorks(whole, page, Many)));
-    const double* of15 = seconds.data();
-    const double* of30 = of15 + 4;
-    const std::vector<const char*> names = {"reads", "LoadDomains", "Check All (20)", "sort (20)"};
-    PrintTimes("15,000", of15, names);
-    PrintTimes("30,000", of30, names);
-    PrintRatio("LoadDomains / its reads", of30[1] / of30[0], LoadLimit);
-    PrintRatio("LoadDomains of 30,000 / of 15,000", of30[1] / of15[1], GrowthLimit);
-    PrintRatio("Check All of 30,000 / of 15,000", of30[2] / of15[2], GrowthLimit);
-    PrintRatio("sort of 30,000 / of 15,000", of30[3] / of15[3], SortLimit);
+    const Work reads = {"reads of " + std::to_string(Many), [&page] { ReadAll(page.Registry()); },
+                        [&whole] { Use(whole); }};
+    const std::vector<double> seconds = MedianSeconds(
+        Join(LoadWorks(half, page, Many / 2), Join(LoadWorks(whole, page, Many), {reads})));
+    const double* ofHalf = seconds.data();
+    const double* ofWhole = ofHalf + LoadWorkCount;
+    PrintRatio("LoadDomains / its reads", ofWhole[Loads] / seconds.back(), LoadLimit);
+    PrintRatio("LoadDomains of 30,000 / of 15,000", ofWhole[Loads] / ofHalf[Loads], GrowthLimit);
+    PrintRatio("Check All of 30,000 / of 15,000", ofWhole[Checks] / ofHalf[Checks], GrowthLimit);
+    PrintRatio("sort of 30,000 / of 15,000", ofWhole[Sorts] / ofHalf[Sorts], SortLimit);
 }
 
-void MeasureMoves(const DomainMap& whole, DomainPage& page) {
-    const DomainMap few(Few / 2);
-    const DomainMap more(Few);
-    const std::vector<double> seconds =
-        MedianSeconds(Join(MoveWorks(few, page, Few / 2), MoveWorks(more, page, Few)));
-    const std::vector<double> ofMany =
-        MedianSeconds(Join(MoveWorks(whole, page, Few), {{[&] { page.Load(); }}}));
-    const std::vector<const char*> names = {"copies and deletes", "Disable", "LoadDomains"};
-    PrintTimes("500 of 500", seconds.data(), {names[0], names[1]});
-    PrintTimes("1,000 of 1,000", seconds.data() + 2, {names[0], names[1]});
-    PrintTimes("1,000 of 30,000", ofMany.data(), names);
-    PrintRatio("Disable of 1,000 / of 500", seconds[3] / seconds[1], GrowthLimit);
-    PrintRatio("Disable of 1,000 / copies and deletes", seconds[3] / seconds[2], MoveLimit);
+void MeasureMoves(DomainPage& page) {
+    const DomainMap half(Few / 2);
+    const DomainMap whole(Few);
+    const std::vector<double> seconds = MedianSeconds(
+        Join(MoveWorks(half, page, Few / 2, Few / 2), MoveWorks(whole, page, Few, Few)));
+    const double* ofHalf = seconds.data();
+    const double* ofWhole = ofHalf + MoveWorkCount;
+    PrintRatio("Disable of 1,000 / of 500", ofWhole[Disables] / ofHalf[Disables], GrowthLimit);
+    PrintRatio("Disable of 1,000 / copies and deletes", ofWhole[Disables] / ofWhole[Copies],
+               MoveLimit);
+}
+
+void MeasureMovesOfMany(const DomainMap& map, DomainPage& page) {
+    const std::vector<double> seconds = MedianSeconds(MoveWorks(map, page, Many, Few));
     PrintRatio("Disable of 1,000 of 30,000 / copies, deletes and LoadDomains",
-               ofMany[1] / (ofMany[0] + ofMany[2]), LoadLimit);
+               seconds[Disables] / (seconds[Copies] + seconds[LoadsToMove]), LoadLimit);
 }
 
 }  // namespace
@@ -154,7 +150,8 @@ bool MeasureDomains() {
     Use(whole);
     DomainPage page;
     MeasureLoads(half, whole, page);
-    MeasureMoves(whole, page);
+    MeasureMoves(page);
+    MeasureMovesOfMany(whole, page);
     if (failed) std::fprintf(stderr, "the figures of the domains are of no use\n");
     return !failed;
 }
