@@ -12,6 +12,11 @@ namespace velkarix {
 // same file takes on the host; with it (not 0) the two are compared. False when there is no digest.
 bool MeasureFileDigest(const std::string& path, double reference);
 
+// Prints what the pages of startup items and of installed applications cost beside the bare calls
+// of the system, with 2,000 items each. These name copies of `program`, which has an icon and a
+// version resource. Keys and files are the benchmark's own and are removed again.
+bool MeasurePages(const std::string& program);
+
 // Prints what the browser page's list of 30,000 domains costs beside the bare registry calls, and
 // how that grows. The keys are made below a key of the benchmark's own, which is removed again.
 bool MeasureDomains();

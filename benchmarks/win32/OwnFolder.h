@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace velkarix {
 
@@ -14,6 +15,12 @@ class OwnFolder {
     OwnFolder& operator=(const OwnFolder&) = delete;
 
     const std::string& Path() const { return path_; }
+
+    // Puts copies of a program there, no two with the same bytes. Gives their paths; fewer than
+    // `count` when one couldn't be made.
+    std::vector<std::string> AddCopies(const std::string& program, int count) const;
+    // Puts a file of that many lines there, each of 32 hexadecimal digits. Gives its path.
+    std::string AddList(const std::string& name, int lines) const;
 
   private:
     std::string path_;
