@@ -70,7 +70,7 @@ void frmStartup::Form_Load() {
     for (const auto& button : buttons_) SkinControl(*button, "button");
     ResolveFolders();
     ClearStartupList();
-    shortcuts_.emplace(application_.machine.shortcuts);
+    shortcuts_.emplace(application_.machine.shortcuts, application_.machine.files);
     cmdRefresh_Click();  // no node is selected yet: it shows all items
     lstvStartup_.Sort(startupColumn::Name, SortOrder::Ascending);
     if (lstvStartup_.RowCount() > 0) lstvStartup_.Select(&lstvStartup_.Row(0));

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "tests/machine/MemoryMachine.h"
+#include "tests/machine/ShortcutFile.h"
 
 namespace velkarix {
 namespace {
@@ -18,23 +19,20 @@ class ShortcutSourceTest : public testing::Test {
     ShortcutSourceTest() { machine.AddFile(Path).Shortcut(Tool); }
 
     std::optional<Shortcut> Open(const std::string& path = Path) {
-        return ShortcutSource(machine.shortcuts).Open(path);
+        return ShortcutSource(machine.shortcuts, machine.files).Open(path);
     }
-    std::vector<std::string> Calls() { return machine.Journal().Names(); }
-
     MemoryMachine machine;
 };
 
 TEST_F(ShortcutSourceTest, TheAutomationObjectIsAskedFirstAndAlone) {
     EXPECT_EQ(Open(), Tool);
-    EXPECT_EQ(Calls(),
-              (std::vector<std::string>{"MakeScriptShell", "MakeShellLink", "CreateShortcut"}));
+    EXPECT_EQ(machine.Journal().CountOf("Load"), 0u);
     EXPECT_EQ(machine.Journal().ArgumentsOf("CreateShortcut"), std::vector<std::string>{Path});
 }
 
 TEST_F(ShortcutSourceTest, TheObjectsAreMadeOnceForAllFiles) {
     machine.AddFile("C:\\b.lnk").Shortcut({"C:\\b.exe", "", ""});
-    ShortcutSource source(machine.shortcuts);
+    ShortcutSource source(machine.shortcuts, machine.files);
     EXPECT_EQ(source.Open(Path), Tool);
     EXPECT_EQ(source.Open("C:\\b.lnk"), (Shortcut{"C:\\b.exe", "", ",0"}));
     EXPECT_EQ(machine.Journal().CountOf("MakeScriptShell"), 1u);
@@ -43,13 +41,13 @@ TEST_F(ShortcutSourceTest, TheObjectsAreMadeOnceForAllFiles) {
 
 TEST_F(ShortcutSourceTest, WithoutTheAutomationObjectTheLinkObjectServes) {
     machine.shortcuts.SetHasScriptShell(false);
-    EXPECT_TRUE(ShortcutSource(machine.shortcuts).Available());
+    EXPECT_TRUE(ShortcutSource(machine.shortcuts, machine.files).Available());
     EXPECT_EQ(Open(), Tool);
 }
 
 TEST_F(ShortcutSourceTest, WithoutTheLinkObjectTheOtherServes) {
     machine.shortcuts.SetHasShellLink(false);
-    EXPECT_TRUE(ShortcutSource(machine.shortcuts).Available());
+    EXPECT_TRUE(ShortcutSource(machine.shortcuts, machine.files).Available());
     EXPECT_EQ(Open(), Tool);
 }
 
@@ -84,9 +82,24 @@ TEST_F(ShortcutSourceTest, WhatNobodyCanReadIsNothing) {
     EXPECT_EQ(Open(), std::nullopt);
 }
 
+TEST_F(ShortcutSourceTest, ABrokenFileIsKeptFromTheSystemsObjects) {
+    Bytes broken = MakeShortcutFile(Tool);
+    broken[0x4C] = 0xFF;  // the size of the first part
+    machine.AddFile("C:\\broken.lnk").Content(broken);
+    machine.AddFile("C:\\large.lnk").Shortcut(Tool).content.resize(1024 * 1024 + 1);
+    machine.AddFile("C:\\most.lnk").Shortcut(Tool).content.resize(1024 * 1024);
+    EXPECT_EQ(Open("C:\\broken.lnk"), std::nullopt);
+    EXPECT_EQ(Open("C:\\large.lnk"), std::nullopt);
+    machine.FailNext("ReadFile");
+    EXPECT_EQ(Open(), std::nullopt);
+    EXPECT_EQ(machine.Journal().CountOf("CreateShortcut"), 0u);
+    EXPECT_EQ(machine.Journal().CountOf("Load"), 0u);
+    EXPECT_EQ(Open("C:\\most.lnk"), Tool);
+}
+
 TEST_F(ShortcutSourceTest, ASystemWithNeitherCannotReadShortcuts) {
     machine.SetSystem(NamedSystem::WindowsNt351);
-    ShortcutSource source(machine.shortcuts);
+    ShortcutSource source(machine.shortcuts, machine.files);
     EXPECT_FALSE(source.Available());
     EXPECT_EQ(source.Open(Path), std::nullopt);
 }
