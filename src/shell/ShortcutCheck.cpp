@@ -55,15 +55,14 @@ bool IsItemList(std::string_view items) {
 
 // Whether a text begins there and ends within `part`. 0 stands for none.
 bool HoldsText(std::string_view part, std::uint32_t offset) {
-    return offset == 0 ||
-           (offset < part.size() && part.find('\0', offset) != std::string_view::npos);
+    return offset == 0 || part.find('\0', offset) != std::string_view::npos;
 }
 
 // A part of the location that begins with its size and holds, at `textOffset`, the offset of a
 // text. 0 stands for none.
 bool HoldsPartWithText(std::string_view location, std::uint32_t offset, std::size_t textOffset) {
     if (offset == 0) return true;
-    if (offset >= location.size()) return false;
+    if (offset > location.size()) return false;
     std::string_view rest = location.substr(offset);
     const auto part = TakePart(rest, 4, true);
     const auto text = part ? NumberAt(*part, textOffset) : std::nullopt;

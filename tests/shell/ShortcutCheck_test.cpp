@@ -124,7 +124,7 @@ TEST(ShortcutCheck, RefusesPartsThatReachPastTheirEnd) {
     const std::string broken[] = {
         File(ItemList, Replaced(Items, 0, Number(11, 2))),           // the list past the file
         File(ItemList, Replaced(Items, 2, Number(9, 2))),            // an item past the list
-        File(ItemList, Replaced(Items, 2, Number(1, 2))),            // no room for its own size
+        File(ItemList, Number(4, 2) + Number(1, 2) + Zeros(2)),      // no room for its own size
         File(ItemList, Replaced(Items, 10, Number(2, 2))),           // no last one
         File(ItemList, Replaced(Items, 0, Number(8, 2))),            // the last one outside
         File(Location, Replaced(OnVolume, 0, Number(52))),           // the location past the file
