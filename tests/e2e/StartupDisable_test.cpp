@@ -101,7 +101,7 @@ TEST_F(EverySystemStartupDisable, ValuesAndAShortcutAreDisabledAndEnabledByTheKe
     Start();
     ASSERT_TRUE(BringToFront(Running().Main()));
     PressKey('3', {VK_CONTROL});
-    ASSERT_TRUE(WaitUntil([this] { return !Running().Focus().empty(); }));
+    ASSERT_TRUE(WaitUntil([this] { return Running().Focus() == "tvwStartup"; }));
     ASSERT_TRUE(TabTo("lstvStartup"));
     TickAllBySpace(true);
     ASSERT_TRUE(TabTo("cmdDisable"));
