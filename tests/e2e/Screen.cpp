@@ -1,21 +1,47 @@
 #include "Screen.h"
 
 #include <algorithm>
+#include <fstream>
 
 #include "Setup.h"
 #include "Wait.h"
+#include "Window.h"
 
 namespace velkarix::e2e {
 
-bool SaveScreenshot(const std::string& name) {
+namespace {
+
+std::string AreaLine(const std::string& name, const RECT& area) {
+    return name + " " + std::to_string(area.right - area.left) + "x" +
+           std::to_string(area.bottom - area.top) + "+" + std::to_string(area.left) + "+" +
+           std::to_string(area.top) + "\n";
+}
+
+std::string AreasOf(DWORD processId) {
+    std::string lines;
+    for (const Window& top : TopWindows(processId)) {
+        lines += AreaLine(top.Name().empty() ? top.Class() : top.Name(), top.Area());
+        for (const Window& child : top.Children()) {
+            if (!child.Name().empty() && child.Visible()) {
+                lines += AreaLine(child.Name(), child.Area());
+            }
+        }
+    }
+    return lines;
+}
+
+}  // namespace
+
+bool SaveScreenshot(const std::string& name, DWORD processId) {
     const std::string folder = Environment("VELKARIX_OUT");
     if (folder.empty()) return false;
-    // Who takes pictures does so when it finds this file, and removes it then.
+    // Who takes pictures does so when it finds this file under its last name, and renames it then.
+    const std::string written = folder + "\\" + name + ".written";
     const std::string request = folder + "\\shot-" + name + ".request";
-    const HANDLE file = CreateFileA(request.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return false;
-    CloseHandle(file);
+    std::ofstream(written, std::ios::binary) << AreasOf(processId);
+    if (MoveFileExA(written.c_str(), request.c_str(), MOVEFILE_REPLACE_EXISTING) == FALSE) {
+        return false;
+    }
     return WaitUntil(
         [&] { return GetFileAttributesA(request.c_str()) == INVALID_FILE_ATTRIBUTES; });
 }

@@ -8,9 +8,11 @@
 
 namespace velkarix::e2e {
 
-// Has a picture of the whole screen saved as `name`.png in the folder that VELKARIX_OUT names.
-// False when there is none, or nobody takes pictures.
-bool SaveScreenshot(const std::string& name);
+// Has a picture of the whole screen saved as `name`.png in the folder that VELKARIX_OUT names, and
+// beside it `name`.areas, which says where on it each window of that process is: a line for each,
+// with its product name, or its class where it has none, and its geometry as X programs write it
+// ("cmdKill 97x24+397+463"). False when there is no such folder, or nobody takes pictures.
+bool SaveScreenshot(const std::string& name, DWORD processId);
 
 // How many pixels of an area of the screen satisfy `counts`.
 int CountPixels(const RECT& area, const std::function<bool(COLORREF)>& counts);
