@@ -94,6 +94,13 @@ check() {
     fi
 }
 
+# Prints the lines that a command finds and fails when there are any.
+none() {
+    local found
+    found=$("$@" || true)
+    [[ -z $found ]] || { echo "$found" && return 1; }
+}
+
 checks_end() {
     echo "[  PASSED  ] $checks_passed tests."
     [[ ${#checks_failed[@]} -eq 0 ]] && return
