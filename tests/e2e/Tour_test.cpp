@@ -1,5 +1,4 @@
-// Goes round the program and has a picture taken of everything it shows. The pictures of the help
-// are cut out of these.
+// Goes round the program and has a picture taken of everything it shows.
 #include "Input.h"
 #include "MenuWindow.h"
 #include "ProgramTest.h"
@@ -49,7 +48,7 @@ class Tour : public ProgramTest {
     void SetUp() override {
         Start();
         BringToFront(Running().Main());
-        // The driver itself isn't what the pictures are to show.
+        // The pictures of the help are cut out of these, and aren't to show the driver.
         Tick(List(), RowOf("velkarix_e2e.exe"));
         ASSERT_TRUE(Running().Press("cmdAdd"));
     }
