@@ -26,8 +26,8 @@ Form* FormSet::Loaded(std::string_view name) const {
     return found == loaded_.end() ? nullptr : found->get();
 }
 
-Form* FormSet::Load(std::string_view name, PageHost* host,
-                    const std::function<void(Form&)>& prepare) {
+Form* FormSet::LoadAnew(std::string_view name, PageHost* host,
+                        const std::function<void(Form&)>& prepare) {
     const auto definition =
         std::find_if(definitions_.begin(), definitions_.end(),
                      [name](const Definition& each) { return each.name == name; });
@@ -40,9 +40,13 @@ Form* FormSet::Load(std::string_view name, PageHost* host,
     return &form;
 }
 
-Form* FormSet::Show(std::string_view name, PageHost* host) {
+Form* FormSet::Load(std::string_view name, PageHost* host) {
     Form* form = Loaded(name);
-    if (form == nullptr) form = Load(name, host, {});
+    return form != nullptr ? form : LoadAnew(name, host, {});
+}
+
+Form* FormSet::Show(std::string_view name, PageHost* host) {
+    Form* form = Load(name, host);
     if (form != nullptr) desktop_.Show(*form);
     return form;
 }
@@ -50,7 +54,7 @@ Form* FormSet::Show(std::string_view name, PageHost* host) {
 void FormSet::ShowModal(std::string_view name, Form& owner,
                         const std::function<void(Form&)>& prepare) {
     if (Loaded(name) != nullptr) return;
-    Form* form = Load(name, nullptr, prepare);
+    Form* form = LoadAnew(name, nullptr, prepare);
     if (form == nullptr) return;
     desktop_.ShowModal(*form, owner);
     Unload(name);

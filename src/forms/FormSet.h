@@ -24,8 +24,10 @@ class FormSet {
     void Define(std::string name, Factory make);
     // Null when no form of that name is loaded.
     Form* Loaded(std::string_view name) const;
-    // Loads the form when it isn't, and shows it; inside `host` when it is a page. Null when no
-    // form of that name is defined.
+    // Loads the form when it isn't; inside `host` when it is a page. Null when no form of that name
+    // is defined.
+    Form* Load(std::string_view name, PageHost* host = nullptr);
+    // The same, and shows it.
     Form* Show(std::string_view name, PageHost* host = nullptr);
     // Shows an instance of its own modally and unloads it when it closes. `prepare` sets the
     // form's properties before its load.
@@ -41,7 +43,8 @@ class FormSet {
         std::string name;
         Factory make;
     };
-    Form* Load(std::string_view name, PageHost* host, const std::function<void(Form&)>& prepare);
+    Form* LoadAnew(std::string_view name, PageHost* host,
+                   const std::function<void(Form&)>& prepare);
 
     Desktop& desktop_;
     std::vector<Definition> definitions_;

@@ -148,6 +148,17 @@ bool frmMain::ShowPage(const std::string& page) {
     return true;
 }
 
+Form* frmMain::LoadPage(const std::string& page) {
+    return application_.forms.Load(page, &picPage_);
+}
+
+void frmMain::UnloadPage(const std::string& page) {
+    application_.forms.Unload(page);
+    if (activePage_ != page) return;
+    activePage_.clear();
+    MarkActivePage();
+}
+
 void frmMain::MarkActivePage() {
     for (std::size_t i = 0; i < std::size(Pages); ++i) {
         pageButtons_[i]->SetPressed(activePage_ == Pages[i].page);

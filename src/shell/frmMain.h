@@ -20,6 +20,12 @@ class frmMain : public Form {
 
     void Form_Load() override;
 
+    // Loads a page that isn't loaded, for what it lists, without showing it. Null when there is no
+    // page of that name.
+    Form* LoadPage(const std::string& page);
+    // Unloads a page. One that is on view leaves its place empty, until the user opens a page.
+    void UnloadPage(const std::string& page);
+
     void lblHelp_Click();
     void lblAbout_Click();
     void tmrUpdate_Timer();

@@ -56,6 +56,14 @@ TEST_F(FormSetTest, ShowsALoadedFormWithoutLoadingItAgain) {
     EXPECT_EQ(desktop.events, (Events{"show frmA"}));
 }
 
+TEST_F(FormSetTest, LoadsAFormWithoutShowingIt) {
+    Form* first = forms.Load("frmA", &host);
+    EXPECT_NE(first, nullptr);
+    EXPECT_EQ(forms.Load("frmA", &host), first);
+    EXPECT_EQ(forms.Load("frmC"), nullptr);
+    EXPECT_EQ(desktop.events, (Events{"create frmA in picPage", "load frmA "}));
+}
+
 TEST_F(FormSetTest, LoadsAnUnloadedFormAfresh) {
     forms.Show("frmA");
     EXPECT_TRUE(forms.Unload("frmA"));
