@@ -1,7 +1,5 @@
 #include "shell/Report.h"
 
-#include <optional>
-
 #include "base/Text.h"
 #include "shell/ShellOpen.h"
 #include "shell/TextFile.h"
@@ -100,20 +98,33 @@ bool AppendReport(Application& application, const std::string& path, const std::
     return false;
 }
 
-bool PrintReport(Application& application, ListView& list, const ReportTable& table,
-                 const std::string& path) {
+std::string ReportBlocks(Application& application, ListView& list,
+                         std::span<const ReportLine> lines,
+                         const std::function<std::string(const ListRow&)>& filePath) {
     clsProcess facts(application.machine);
     std::string text;
     for (std::size_t i = 0; i < list.RowCount(); ++i) {
         const ListRow& row = list.Row(i);
         RowBlock block(row, facts, application.appearance);
-        if (table.filePath) facts.GetFileDescription(table.filePath(row));
-        block.Add(table.lines);
-        if (table.filePath) block.Add(VersionBlock());
+        if (filePath) facts.GetFileDescription(filePath(row));
+        block.Add(lines);
+        if (filePath) block.Add(VersionBlock());
         if (i > 0) text.append(LineBreak);
         text += block.Text();
     }
-    return AppendReport(application, path, text, table.failure, table.failureIcon);
+    return text;
+}
+
+bool PrintReport(Application& application, ListView& list, const ReportTable& table,
+                 const std::string& path) {
+    return AppendReport(application, path,
+                        ReportBlocks(application, list, table.lines, table.filePath), table.failure,
+                        table.failureIcon);
+}
+
+std::optional<std::string> AskReportFile(Application& application, Form& owner,
+                                         const char* fileName) {
+    return application.desktop.AskSaveFile(owner, {"Text File (*.txt)", "*.txt", fileName});
 }
 
 void RunReportCommand(Application& application, Form& owner, const ListView& list,
@@ -123,8 +134,7 @@ void RunReportCommand(Application& application, Form& owner, const ListView& lis
         application.Tell(MessageIcon::Information, command.emptyMessage);
         return;
     }
-    const std::optional<std::string> path =
-        application.desktop.AskSaveFile(owner, {"Text File (*.txt)", "*.txt", command.fileName});
+    const std::optional<std::string> path = AskReportFile(application, owner, command.fileName);
     if (!path) return;
     WriteReportHeader(application, *path, command.title);
     print(*path);

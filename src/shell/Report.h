@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -55,13 +56,22 @@ struct ReportTable {
     MessageIcon failureIcon = MessageIcon::Information;
 };
 
-// Appends a block for each row in the shown order, with an empty line between two rows. Failure
-// looks as with AppendReport.
+// A block of `lines` for each row in the shown order, with an empty line between two rows.
+// `filePath` as in ReportTable.
+std::string ReportBlocks(Application& application, ListView& list,
+                         std::span<const ReportLine> lines,
+                         const std::function<std::string(const ListRow&)>& filePath = {});
+
+// Appends the blocks of the list's rows. Failure looks as with AppendReport.
 bool PrintReport(Application& application, ListView& list, const ReportTable& table,
                  const std::string& path);
 
-// The steps of every report command: asks for the file, writes the header, has the list written
-// by `print`, and opens the file. Nothing is written when the user cancels.
+// Asks for the file of a report, with `fileName` proposed. Nothing when the user cancels.
+std::optional<std::string> AskReportFile(Application& application, Form& owner,
+                                         const char* fileName);
+
+// The steps of every list's report command: asks for the file, writes the header, has the list
+// written by `print`, and opens the file. Nothing is written when the user cancels.
 void RunReportCommand(Application& application, Form& owner, const ListView& list,
                       const ReportCommand& command,
                       const std::function<void(const std::string&)>& print);
