@@ -16,6 +16,7 @@ class ProtocolDefaultsView : public BrowserView {
 
     std::vector<Control*> Controls() override;
     Layout ViewLayout() override;
+    ListView& List() { return editor_.List(); }
 
     // Fills the list and selects its first row.
     void LoadProtocolDefaults();

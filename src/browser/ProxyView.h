@@ -19,6 +19,10 @@ class ProxyView : public BrowserView {
 
     // Shows what the registry holds. A server without a port leaves the box of the port as it is.
     void LoadProxy();
+    // What the boxes show, applied or not.
+    bool ProxyEnabled() const { return chkProxyEnabled_.Checked(); }
+    const std::string& Address() const { return txtAddress_.Value(); }
+    const std::string& Port() const { return txtPort_.Value(); }
     void chkProxyEnabled_Click();
     // Writes the settings and shows what is stored then. With the proxy on, an address and a port
     // must be there.

@@ -19,6 +19,7 @@ class SecurityZoneView : public BrowserView {
 
     std::vector<Control*> Controls() override;
     Layout ViewLayout() override;
+    ListView& List() { return editor_.List(); }
 
     // Fills the list with the settings of a zone (0 to 4), up to the first that is missing, and
     // selects the first row. The tab on view stays: it is that zone that an apply changes.

@@ -50,6 +50,11 @@ class frmIE : public Form {
     // `zone` is from 0 to 4.
     void loadSecurityZone(std::int16_t zone) { securityZones_.loadSecurityZone(zone); }
 
+    // What the views of the settings show.
+    const ProxyView& Proxy() const { return proxy_; }
+    ListView& ProtocolDefaults() { return protocolDefaults_.List(); }
+    ListView& SecurityZone() { return securityZones_.List(); }
+
     // Append the lists, in their shown order, to a report. False, after a message, when that fails.
     bool printReportBHO(const std::string& filePath) { return bhos_.PrintList(filePath); }
     bool printReportToolbar(const std::string& filePath) { return toolbars_.PrintList(filePath); }
