@@ -60,8 +60,7 @@ void frmProcess::Form_Load() {
         application_.machine.files.CreateDirectoryA(backup);
     }
     if (NumericPrefix(application_.settings.ReadIni("Main", "Filter", "1")) != Filtered) {
-        optFilter_.Choose(All);
-        optFilter_Click();
+        ShowAllProcesses();
     } else {
         filterOn_ = true;
     }
@@ -82,6 +81,11 @@ void frmProcess::ApplySkin() {
 
 std::string frmProcess::SafeListFile() {
     return application_.settings.InstallFolder() + "\\SafeProcess.vkl";
+}
+
+void frmProcess::ShowAllProcesses() {
+    optFilter_.Choose(All);
+    optFilter_Click();
 }
 
 void frmProcess::optFilter_Click() {

@@ -22,6 +22,8 @@ class frmProcess : public Form {
     void Form_Load() override;
 
     void LoadProcessList();
+    // Chooses "All", as the user would: builds the list anew and keeps the setting.
+    void ShowAllProcesses();
     void optFilter_Click();
     void lstvProcess_ItemClick(const ListRow& row);
     void lstvProcess_ColumnClick(int column);
