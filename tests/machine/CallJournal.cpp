@@ -6,16 +6,16 @@
 namespace velkarix {
 namespace {
 
-bool IsClosing(std::string_view name) {
+bool LetsGo(std::string_view name) {
     return name == "RegCloseKey" || name == "CloseFile" || name == "CloseHandle" ||
-           name == "FindClose";
+           name == "CloseToken" || name == "FindClose" || name == "AdjustTokenPrivileges";
 }
 
 }  // namespace
 
 ErrorCode CallJournal::Enter(std::string_view name, std::string arguments) {
     const std::size_t number = calls_.size();
-    if (number >= firstUnreached_ && !IsClosing(name)) {
+    if (number >= firstUnreached_ && !LetsGo(name)) {
         throw ProcessEnded{};
     }
     calls_.push_back({std::string(name), std::move(arguments)});

@@ -43,8 +43,9 @@ class CallJournal {
     // number, counted from 0 since the last Clear, looks at anything.
     void OnCall(std::size_t number, std::function<void()> action);
 
-    // The process ends at the call of this number: it throws ProcessEnded and does nothing. Closing
-    // a handle is no such call: it changes nothing, and happens while the stack is left.
+    // The process ends at the call of this number: it throws ProcessEnded and does nothing. Letting
+    // go of a handle or a privilege is no such call: it changes nothing that outlives the process,
+    // and happens while the stack is left.
     void EndAtCall(std::size_t number) { firstUnreached_ = number; }
 
     const std::vector<Call>& Calls() const { return calls_; }

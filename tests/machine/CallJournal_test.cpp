@@ -85,7 +85,9 @@ TEST(CallJournal, TheProcessEndsAtACallOfItsNumberButNotAtClosing) {
     EXPECT_THROW(journal.Enter("B"), ProcessEnded);
     EXPECT_EQ(journal.Enter("CloseFile"), error::Success);
     EXPECT_THROW(journal.Enter("C"), ProcessEnded);
-    EXPECT_EQ(journal.Names(), (std::vector<std::string>{"A", "RegCloseKey", "CloseFile"}));
+    EXPECT_EQ(journal.Enter("AdjustTokenPrivileges"), error::Success);
+    EXPECT_EQ(journal.Names(),
+              (std::vector<std::string>{"A", "RegCloseKey", "CloseFile", "AdjustTokenPrivileges"}));
 }
 
 }  // namespace velkarix
