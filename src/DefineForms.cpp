@@ -4,6 +4,7 @@
 
 #include "browser/frmIE.h"
 #include "installed/frmAddRemove.h"
+#include "options/FullReport.h"
 #include "options/frmOptions.h"
 #include "process/VerdictCache.h"
 #include "process/frmProcess.h"
@@ -39,12 +40,16 @@ void DefineForms(Application& application) {
     DefineForm<frmAbout>(application, "frmAbout");
     DefineForm<frmIE>(application, "frmIE");
     DefineForm<frmAddRemove>(application, "frmAddRemove");
-    DefineForm<frmOptions>(application, "frmOptions");
     DefineForm<frmviewInfo>(application, "frmviewInfo");
     // The cache lives as long as the program: a page that is left and entered hashes nothing again.
     application.forms.Define("frmProcess",
                              [&application, cache = std::make_shared<VerdictCache>()] {
                                  return std::make_unique<frmProcess>(application, *cache);
+                             });
+    // The report runs on when its page is left.
+    application.forms.Define("frmOptions",
+                             [&application, report = std::make_shared<FullReport>(application)] {
+                                 return std::make_unique<frmOptions>(application, *report);
                              });
     // The user is told once that shortcuts can't be read, not each time that the page is entered.
     application.forms.Define("frmStartup", [&application, told = std::make_shared<bool>(false)] {

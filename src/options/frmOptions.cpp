@@ -17,14 +17,14 @@ const char* Digit(bool checked) {
 
 }  // namespace
 
-frmOptions::frmOptions(Application& application)
+frmOptions::frmOptions(Application& application, FullReport& report)
     : Form("frmOptions", "Options", FormKind::Page),
       application_(application),
+      report_(report),
       fmLegend_("fmLegend", "Legend: Please double click the box to change color"),
       chkFontBold_("chkFontBold", "Font Bold", [this] { chkFontBold_Click(); }),
       fmReport_("fmReport", "Full Report: Please select areas to include in report"),
-      lblReport_("lblReport",
-                 "The full report is not built yet. It comes with a later version of the program."),
+      cmdReport_("cmdReport", "Generate Report", [this] { cmdReport_Click(); }),
       fmBackup_("fmBackup", "Process Backup"),
       lstvBackup_("lstvBackup", "Backups of deleted files", {"Deleted On", "File Name", "Path"},
                   {{}, [this](int column) { SortByColumn(lstvBackup_, column - 1); }, {}, {}}),
@@ -47,11 +47,19 @@ void frmOptions::MakeLayout() {
         legend.children.insert(legend.children.end(),
                                {Item(*colorBoxes_.back()), Item(*colorLabels_.back())});
     }
-    controls.insert(controls.end(), {&chkFontBold_, &fmReport_, &lblReport_, &fmBackup_,
-                                     &lstvBackup_, &chkDelete_, &cmdrestore_, &cmdDelete_});
+    controls.insert(controls.end(), {&chkFontBold_, &fmReport_});
+    Layout areas = Row({});
+    for (const FullReportArea& area : FullReportAreas()) {
+        areaBoxes_.push_back(std::make_unique<CheckBox>(area.box, area.caption, Handler()));
+        controls.push_back(areaBoxes_.back().get());
+        areas.children.push_back(Item(*areaBoxes_.back()));
+    }
+    areas.children.insert(areas.children.end(), {Space(), Item(cmdReport_)});
+    controls.insert(controls.end(), {&cmdReport_, &fmBackup_, &lstvBackup_, &chkDelete_,
+                                     &cmdrestore_, &cmdDelete_});
     SetControls(std::move(controls));
     SetLayout(Column({Group(fmLegend_, Column({std::move(legend), Item(chkFontBold_)})),
-                      Group(fmReport_, Item(lblReport_)),
+                      Group(fmReport_, std::move(areas)),
                       Group(fmBackup_,
                             Column({Item(lstvBackup_, 1),
                                     Row({Item(chkDelete_), Space(),
@@ -60,8 +68,8 @@ void frmOptions::MakeLayout() {
 }
 
 void frmOptions::Form_Load() {
-    SkinControl(cmdDelete_, "button");
-    SkinControl(cmdrestore_, "button");
+    for (Button* button : {&cmdDelete_, &cmdrestore_, &cmdReport_}) SkinControl(*button, "button");
+    cmdReport_.SetEnabled(!report_.Runs());
     chkDelete_.SetChecked(NumericPrefix(application_.settings.ReadIni("Main", "Delete", "0")) == 1);
     chkFontBold_.SetChecked(application_.appearance.FontBold == 1);
     for (std::size_t i = 0; i < std::size(Legend); ++i) {
@@ -84,6 +92,13 @@ void frmOptions::ColorBox_DblClick(std::size_t box) {
 void frmOptions::chkFontBold_Click() {
     application_.settings.WriteIni("Main", "FontBold", Digit(chkFontBold_.Checked()));
     application_.appearance.FontBold = chkFontBold_.Checked() ? 1 : 0;
+}
+
+// This page may be gone when the report is done.
+void frmOptions::cmdReport_Click() {
+    std::vector<bool> chosen;
+    for (const auto& box : areaBoxes_) chosen.push_back(box->Checked());
+    report_.Run(*this, chosen);
 }
 
 void frmOptions::chkDelete_Click() {

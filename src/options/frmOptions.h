@@ -8,18 +8,21 @@
 #include "forms/Controls.h"
 #include "forms/Form.h"
 #include "forms/ListView.h"
+#include "options/FullReport.h"
 #include "shell/Application.h"
 
 namespace velkarix {
 
 class frmOptions : public Form {
   public:
-    explicit frmOptions(Application& application);
+    // The report outlives the page.
+    frmOptions(Application& application, FullReport& report);
 
     void Form_Load() override;
 
     void LoadBackupList();
     void chkFontBold_Click();
+    void cmdReport_Click();
     void chkDelete_Click();
     void cmdrestore_Click();
     void cmdDelete_Click();
@@ -32,13 +35,15 @@ class frmOptions : public Form {
     void DeleteSet(const std::string& first, const std::string& second);
 
     Application& application_;
+    FullReport& report_;
 
     Frame fmLegend_;
     std::vector<std::unique_ptr<ColorBox>> colorBoxes_;
     std::vector<std::unique_ptr<Label>> colorLabels_;
     CheckBox chkFontBold_;
     Frame fmReport_;
-    Label lblReport_;
+    std::vector<std::unique_ptr<CheckBox>> areaBoxes_;  // as FullReportAreas
+    Button cmdReport_;
     Frame fmBackup_;
     ListView lstvBackup_;
     CheckBox chkDelete_;

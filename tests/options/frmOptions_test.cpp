@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -287,6 +288,30 @@ TEST_F(OptionsPageTest, ShowsNoBackupsWithoutAFolder) {
     program.Get<Button>("frmMain", "cmdIE").Raise("Click");
     program.Get<Button>("frmMain", "cmdOptions").Raise("Click");
     EXPECT_EQ(List().RowCount(), 0u);
+}
+
+// ---- The full report
+
+TEST_F(OptionsPageTest, OffersTheAreasOfTheFullReportAndItsButtonInTabOrder) {
+    Open();
+    RowTexts controls;
+    for (const Control* control : program.application.forms.Loaded("frmOptions")->Controls()) {
+        controls.push_back(control->Name() + ": " + control->Text());
+    }
+    const auto group = std::find(controls.begin(), controls.end(),
+                                 "fmReport: Full Report: Please select areas to include in report");
+    ASSERT_GE(controls.end() - group, 6);
+    EXPECT_EQ(RowTexts(group + 1, group + 6),
+              (RowTexts{"chkProcess: Process", "chkIE: Internet Explorer", "chkStartup: Startup",
+                        "chkAddremove: Add/Remove", "cmdReport: Generate Report"}));
+    EXPECT_TRUE(program.application.forms.Loaded("frmOptions")->Find("cmdReport")->Enabled());
+}
+
+TEST_F(OptionsPageTest, GivesItsThreeButtonsTheirLook) {
+    Open();
+    for (const char* button : {"cmdDelete", "cmdrestore", "cmdReport"}) {
+        EXPECT_EQ(program.Get<Button>("frmOptions", button).SkinElement(), "button") << button;
+    }
 }
 
 // Every call of a restore fails once, or from there on: the backup's bytes are never lost.
