@@ -24,9 +24,6 @@ class FullReportFailure : public FullReportPage {
         }
         return texts;
     }
-    std::string Whole() {
-        return ReportHeader() + ProcessArea() + BrowserArea() + StartupArea() + InstalledArea();
-    }
 };
 
 TEST_F(FullReportFailure, IsToldByEachWriterWhereTheFileCanNotBeWritten) {
@@ -56,7 +53,7 @@ TEST_F(FullReportFailure, CanBeGivenAgainAfterIt) {
     Generate();
     Machine().disk.Remove(ReportFile);
     Generate();
-    EXPECT_EQ(Report(), Whole());
+    EXPECT_EQ(Report(), WholeReport());
 }
 
 // The settings that are kept meanwhile need the disk as well: areas without any are chosen.
@@ -83,7 +80,7 @@ TEST_F(FullReportFailure, GoesOnBehindAWriterThatFailed) {
     };
     Generate();
     EXPECT_EQ(Messages(), Texts{AllWriters(Denied)[3]});
-    std::string expected = Whole();
+    std::string expected = WholeReport();
     const std::size_t from = expected.find("\r\n****** Toolbar Button Report ******");
     expected.erase(from, expected.find("\r\n****** Menu Report ******") - from);
     EXPECT_EQ(Report(), expected);

@@ -9,10 +9,12 @@
 
 #include "tests/machine/TestProgram.h"
 #include "tests/options/FullReportMachine.h"
+#include "tests/options/FullReportTexts.h"
 
 namespace velkarix {
 
 inline constexpr const char* ReportFile = "C:\\Full.txt";
+inline constexpr int Blocks = 12;  // of all areas; events are served before each
 inline constexpr const char* AreaBoxes[] = {"chkProcess", "chkIE", "chkStartup", "chkAddremove"};
 
 class FullReportPage : public testing::Test {
