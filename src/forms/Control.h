@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace velkarix {
@@ -57,6 +58,10 @@ class Control {
     // system's look. Nothing but the drawing depends on it.
     const std::string& SkinElement() const { return skinElement_; }
     void SetSkinElement(std::string element);
+    // A few words that come up where the mouse rests on the control; empty is none. Said once,
+    // before the form is shown.
+    const std::string& ToolTip() const { return toolTip_; }
+    void SetToolTip(std::string words) { toolTip_ = std::move(words); }
 
     // The user's gesture `event` ("Click", "DblClick"). False when the control has no such event
     // or is disabled.
@@ -78,6 +83,7 @@ class Control {
     std::string name_;
     std::string text_;
     std::string skinElement_;
+    std::string toolTip_;
     bool enabled_ = true;
     bool visible_ = true;
     Control* around_ = nullptr;

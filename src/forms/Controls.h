@@ -23,7 +23,8 @@ bool FireEvent(std::string_view event, std::string_view wanted, const Handler& h
 // Text as it stands: a label has no access key, and "&" is a letter in it as any other.
 class Label : public Control {
   public:
-    enum class Look { Plain, Title };  // a title stands in large type on the banner
+    // A title stands in large type on the banner; a paragraph takes as many lines as it needs.
+    enum class Look { Plain, Title, Paragraph };
     Label(std::string name, std::string text, Look look = Look::Plain);
     Look LabelLook() const { return look_; }
     void Accept(ControlVisitor& visitor) override;

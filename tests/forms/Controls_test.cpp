@@ -37,6 +37,13 @@ TEST(Button, MayBeDestroyedByItsOwnHandler) {
     EXPECT_EQ(clicks, 1);
 }
 
+TEST(Button, HasNoToolTipUnlessItIsGivenOne) {
+    Button button("cmdTest", "Test", {});
+    EXPECT_EQ(button.ToolTip(), "");
+    button.SetToolTip("Click to test ");
+    EXPECT_EQ(button.ToolTip(), "Click to test ");
+}
+
 TEST(LinkLabel, RunsItsHandlerOnAClick) {
     int clicks = 0;
     LinkLabel link("lblTest", "Test", [&clicks] { ++clicks; });

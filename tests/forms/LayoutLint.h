@@ -20,6 +20,12 @@ class PlainMetrics : public LayoutMetrics {
             return {box->BoxShape().widthInCharacters * 8, box->BoxShape().lines * 20};
         }
         if (dynamic_cast<ListView*>(&control) != nullptr) return {300, 100};
+        const auto* label = dynamic_cast<Label*>(&control);
+        if (label != nullptr && label->LabelLook() == Label::Look::Paragraph) {
+            constexpr int InALine = 60;
+            const int lines = (static_cast<int>(label->Text().size()) + InALine - 1) / InALine;
+            return {InALine * 8, lines * 20};
+        }
         return {static_cast<int>(control.Text().size()) * 8, 20};
     }
     Insets GroupInsets(Control&) override { return {8, 20, 8, 8}; }

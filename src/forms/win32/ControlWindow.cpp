@@ -23,11 +23,13 @@ ControlWindow::ControlWindow(DesktopContext& context, Control& model, const Cont
     SetWindowLongPtrA(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure));
     SetWindowName(handle_, model.Name());
     Send(WM_SETFONT, reinterpret_cast<WPARAM>(context.fonts.Dialog()));
+    if (!model.ToolTip().empty()) toolTip_.emplace(context.instance, handle_, model.ToolTip());
     model.AttachView(this);
 }
 
 void ControlWindow::Detach() {
     model_.AttachView(nullptr);
+    toolTip_.reset();
     context_.visibility.Forget(handle_);
     RemoveWindowName(handle_);
     SetWindowLongPtrA(handle_, GWLP_USERDATA, 0);
@@ -43,6 +45,7 @@ ControlWindow* ControlWindow::From(HWND window) {
 LRESULT CALLBACK ControlWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     auto* self = reinterpret_cast<ControlWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA));
     const ProcedureScope scope(self->context_);
+    if (self->toolTip_) self->toolTip_->Relay(message, wParam, lParam);
     return self->OnMessage(message, wParam, lParam);
 }
 

@@ -2,9 +2,12 @@
 // (name, text, font, enabled, visible, their part of the messages) is here.
 #pragma once
 
+#include <optional>
+
 #include "forms/Control.h"
 #include "forms/Layout.h"
 #include "forms/win32/DesktopContext.h"
+#include "forms/win32/ToolTipWindow.h"
 
 namespace velkarix {
 
@@ -79,6 +82,7 @@ class ControlWindow : public ControlView {
     Shade ground_;
     HWND handle_;
     WNDPROC native_;
+    std::optional<ToolTipWindow> toolTip_;
 };
 
 }  // namespace velkarix

@@ -21,10 +21,10 @@ LOGFONTA DialogFont(const Dpi& dpi) {
     return font;
 }
 
-Size Measured(HFONT font, const std::string& text, UINT format) {
+Size Measured(HFONT font, const std::string& text, UINT format, int width = 0) {
     const ScreenContext screen;
     const Selection selection(screen, font);
-    RECT area{};
+    RECT area{0, 0, width, 0};
     // An empty text is as high as one line.
     DrawTextA(screen, text.empty() ? " " : text.c_str(), -1, &area, DT_CALCRECT | format);
     return {text.empty() ? 0 : static_cast<int>(area.right), static_cast<int>(area.bottom)};
@@ -55,6 +55,10 @@ Size CaptionExtent(HFONT font, const std::string& caption) {
 
 Size TextExtent(HFONT font, const std::string& text) {
     return Measured(font, text, DT_NOPREFIX);
+}
+
+Size ParagraphExtent(HFONT font, const std::string& text, int width) {
+    return Measured(font, text, DT_NOPREFIX | DT_WORDBREAK, width);
 }
 
 int AverageCharacterWidth(HFONT font) {

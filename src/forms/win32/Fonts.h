@@ -28,6 +28,8 @@ class Fonts {
 Size CaptionExtent(HFONT font, const std::string& caption);
 // The same for text in which "&" is a letter as any other.
 Size TextExtent(HFONT font, const std::string& text);
+// A text that is broken between its words into lines of at most `width` pixels.
+Size ParagraphExtent(HFONT font, const std::string& text, int width);
 // The mean width of a letter, as the system counts dialog units.
 int AverageCharacterWidth(HFONT font);
 

@@ -12,6 +12,10 @@ namespace velkarix {
 
 namespace {
 
+// A paragraph's least width, in average letters: as high as it is there, it has room for all of its
+// lines in any wider place.
+constexpr int ParagraphCharacters = 60;
+
 const Spacing& SpacingFor(const RECT& workArea, const Dpi& dpi) {
     const bool roomy =
         Width(workArea) >= dpi.Pixels(RoomyWidth) && Height(workArea) >= dpi.Pixels(RoomyHeight);
@@ -111,6 +115,11 @@ void Metrics::Visit(Panel& control) {
 }
 
 void Metrics::Visit(Label& control) {
+    if (control.LabelLook() == Label::Look::Paragraph) {
+        const int width = ParagraphCharacters * AverageCharacterWidth(fonts_.Dialog());
+        size_ = ParagraphExtent(fonts_.Dialog(), control.Text(), width);
+        return;
+    }
     const bool title = control.LabelLook() == Label::Look::Title;
     size_ = TextExtent(title ? fonts_.Title() : fonts_.Dialog(), control.Text());
 }

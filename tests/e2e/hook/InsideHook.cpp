@@ -76,13 +76,24 @@ std::string CountUserObjects() {
     return std::to_string(count);
 }
 
-// The size that a control's text has in the control's font.
+bool IsLabel(HWND control) {
+    char name[16] = "";
+    GetClassNameA(control, name, sizeof name);
+    const LONG kind = GetWindowLongA(control, GWL_STYLE) & SS_TYPEMASK;
+    return lstrcmpiA(name, "Static") == 0 && kind == SS_LEFT;
+}
+
+// The size that a control's text has in the control's font; a label breaks it into lines that are
+// as wide as itself.
 SIZE SizeOfText(HWND control, const char* text) {
     const HDC context = GetDC(control);
     const HGDIOBJ before =
         SelectObject(context, reinterpret_cast<HFONT>(SendMessageA(control, WM_GETFONT, 0, 0)));
     RECT area{};
-    DrawTextA(context, text, -1, &area, DT_CALCRECT | DT_SINGLELINE);
+    GetClientRect(control, &area);
+    area.bottom = 0;
+    DrawTextA(context, text, -1, &area,
+              DT_CALCRECT | (IsLabel(control) ? DT_WORDBREAK | DT_NOPREFIX : DT_SINGLELINE));
     SelectObject(context, before);
     ReleaseDC(control, context);
     return {area.right, area.bottom};
@@ -97,15 +108,14 @@ bool IsPicture(HWND control) {
     return std::string(name).starts_with("pic");
 }
 
-// What shows its text in a line of its own: labels, buttons, options, frames.
+// What shows its text: labels, buttons, options, frames.
 bool ShowsText(HWND control) {
     char name[16] = "";
     GetClassNameA(control, name, sizeof name);
-    const LONG kind = GetWindowLongA(control, GWL_STYLE) & SS_TYPEMASK;
-    return lstrcmpiA(name, "Button") == 0 || (lstrcmpiA(name, "Static") == 0 && kind == SS_LEFT);
+    return lstrcmpiA(name, "Button") == 0 || IsLabel(control);
 }
 
-// Adds the text of a control that isn't wide or high enough for it, in a line of its own.
+// Adds a line with the text of a control that isn't wide or high enough for it.
 BOOL CALLBACK AddCutText(HWND control, LPARAM lines) {
     char text[512] = "";
     if (!IsWindowVisible(control) || !ShowsText(control) || IsPicture(control)) return TRUE;
