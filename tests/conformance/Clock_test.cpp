@@ -89,4 +89,29 @@ TEST_P(ClockConformance, ADateAndATimeHaveTheirShortForms) {
     EXPECT_EQ(clock_.GetTimeFormatA({2004, 6, 2, 1, 0, 0, 0, 0}), "12:00:00 AM");
 }
 
+// Those of the United States, the United Kingdom, Germany and Japan.
+TEST_P(ClockConformance, TheUsersShortFormOfDatesIsTheOneThatIsWrittenAndRead) {
+    const std::pair<const char*, const char*> forms[] = {{"M/d/yyyy", "6/1/2004"},
+                                                         {"dd/MM/yyyy", "01/06/2004"},
+                                                         {"dd.MM.yyyy", "01.06.2004"},
+                                                         {"yyyy/MM/dd", "2004/06/01"}};
+    for (const auto& [form, text] : forms) {
+        home_->SetShortDate(form);
+        EXPECT_EQ(clock_.GetDateFormatA({2004, 6, 2, 1, 15, 4, 5, 0}), text);
+        EXPECT_EQ(clock_.VarDateFromStr(text), 38139.0) << text;
+        EXPECT_EQ(clock_.VarDateFromStr(std::string(text) + " 12:00:00"), 38139.5) << text;
+        EXPECT_EQ(clock_.VarDateFromStr("2004-06-01"), 38139.0) << form;
+        EXPECT_EQ(clock_.VarDateFromStr("***"), std::nullopt) << form;
+        EXPECT_EQ(clock_.VarDateFromStr(""), std::nullopt) << form;
+    }
+}
+
+TEST_P(ClockConformance, TheOrderOfTheShortFormDecidesWhichNumberIsTheDay) {
+    home_->SetShortDate("dd/MM/yyyy");
+    EXPECT_EQ(clock_.VarDateFromStr("6/1/2004"), 37992.0);  // 6 January
+    EXPECT_EQ(clock_.VarDateFromStr("1/6/04"), 38139.0);
+    home_->SetShortDate("yyyy/MM/dd");
+    EXPECT_EQ(clock_.VarDateFromStr("04/6/1"), 38139.0);
+}
+
 }  // namespace velkarix

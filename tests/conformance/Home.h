@@ -57,6 +57,8 @@ class Home {
     // A drive letter with its colon that no drive has.
     virtual std::string MissingDrive() = 0;
 
+    // The user's short form of dates ("dd.MM.yyyy") until the test ends.
+    virtual void SetShortDate(const std::string& form) = 0;
     // Sets an environment variable of this process.
     virtual void SetVariable(const std::string& name, const std::string& value) = 0;
     virtual ProcessId OwnProcessId() = 0;

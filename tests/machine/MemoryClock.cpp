@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <chrono>
+#include <map>
 #include <string_view>
 
 #include "tests/machine/CaseFold.h"
@@ -42,26 +43,44 @@ bool Take(std::string_view& text, std::string_view wanted) {
     return found;
 }
 
+// What a short form of dates is made of.
+struct DateForm {
+    std::string order;  // 'd', 'M' and 'y', each once
+    char separator = 0;
+};
+
+DateForm FormOf(std::string_view shortDate) {
+    DateForm form;
+    for (const char c : shortDate) {
+        if (c != 'd' && c != 'M' && c != 'y') {
+            form.separator = c;
+        } else if (form.order.find(c) == std::string::npos) {
+            form.order += c;
+        }
+    }
+    return form;
+}
+
+int FullYear(int year) {
+    // As the automation library takes two digits.
+    return year >= 100 ? year : year + (year < 30 ? 2000 : 1900);
+}
+
 // The date at the front of the text; one that isn't on the calendar when there is none.
-std::chrono::year_month_day TakeDate(std::string_view& text) {
-    const std::size_t before = text.size();
-    const int first = TakeNumber(text, 4);
-    const bool yearFirst = before - text.size() == 4;
-    const std::string_view separator = yearFirst ? "-" : "/";
-    const bool firstSeparator = Take(text, separator);
-    const int second = TakeNumber(text, 2);
-    const bool secondSeparator = Take(text, separator);
-    int third = TakeNumber(text, yearFirst ? 2 : 4);
-    if (first < 0 || second < 0 || third < 0 || !firstSeparator || !secondSeparator) {
-        return DateOf(0, 0, 0);
+std::chrono::year_month_day TakeDate(std::string_view& text, DateForm form) {
+    constexpr std::size_t yearDigits = 4;
+    if (text.find('-') == yearDigits) {
+        form = {"yMd", '-'};
     }
-    if (yearFirst) {
-        return DateOf(first, second, third);
+    std::map<char, int> parts;
+    for (const char part : form.order) {
+        const bool separated = parts.empty() || Take(text, {&form.separator, 1});
+        parts[part] = TakeNumber(text, part == 'y' ? yearDigits : 2);
+        if (!separated || parts[part] < 0) {
+            return DateOf(0, 0, 0);
+        }
     }
-    if (third < 100) {
-        third += third < 30 ? 2000 : 1900;  // as the automation library takes two digits
-    }
-    return DateOf(third, first, second);
+    return DateOf(FullYear(parts['y']), parts['M'], parts['d']);
 }
 
 // The time of day that is the rest of the text, in seconds; -1 when it is no time.
@@ -135,8 +154,20 @@ std::optional<SystemTime> MemoryClock::FileTimeToSystemTime(FileTime time) {
 
 std::string MemoryClock::GetDateFormatA(const SystemTime& time) {
     journal_.Enter("GetDateFormatA");
-    return std::to_string(time.month) + "/" + std::to_string(time.day) + "/" +
-           std::to_string(time.year);
+    std::string text;
+    for (std::string_view rest = shortDate_; !rest.empty();) {
+        const char part = rest.front();
+        const std::size_t count = std::min(rest.find_first_not_of(part), rest.size());
+        rest.remove_prefix(count);
+        const int number = part == 'd' ? time.day : part == 'M' ? time.month : time.year;
+        if (part != 'd' && part != 'M' && part != 'y') {
+            text += part;
+        } else {
+            const std::string digits = std::to_string(number);
+            text.append(count - std::min(count, digits.size()), '0').append(digits);
+        }
+    }
+    return text;
 }
 
 std::string MemoryClock::GetTimeFormatA(const SystemTime& time) {
@@ -162,7 +193,7 @@ std::optional<OleDate> MemoryClock::VarDateFromStr(const std::string& text) {
     std::string_view rest = folded;
     rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
     rest.remove_suffix(rest.size() - (rest.find_last_not_of(' ') + 1));
-    const std::chrono::year_month_day date = TakeDate(rest);
+    const std::chrono::year_month_day date = TakeDate(rest, FormOf(shortDate_));
     const int seconds = rest.empty() ? 0 : (Take(rest, " ") ? TakeTime(rest) : -1);
     if (!date.ok() || seconds < 0) {
         return std::nullopt;

@@ -1,5 +1,5 @@
 // The clock of the machine in memory: it stands still, in a zone with a fixed distance to UTC, and
-// reads dates as US English settings do.
+// reads dates as US English settings do, or with another short form of dates.
 #pragma once
 
 #include "platform/Clock.h"
@@ -21,6 +21,9 @@ class MemoryClock : public Clock {
     void SetLocalTime(const SystemTime& time) { now_ = time; }
     // How many minutes local time is ahead of UTC; 0 at first.
     void SetUtcOffset(int minutes) { offsetMinutes_ = minutes; }
+    // The user's short form of dates: day (d, dd), month (M, MM) and year (yyyy) in some order,
+    // with one separator between them; "M/d/yyyy" at first.
+    void SetShortDate(const std::string& form) { shortDate_ = form; }
     // Whether the system has the automation library; it does at first.
     void SetHasAutomation(bool there) { hasAutomation_ = there; }
 
@@ -31,16 +34,18 @@ class MemoryClock : public Clock {
     SystemTime GetLocalTime() override;
     std::optional<FileTime> FileTimeToLocalFileTime(FileTime time) override;
     std::optional<SystemTime> FileTimeToSystemTime(FileTime time) override;
-    // m/d/yyyy, m/d/yy, yyyy-mm-dd, each also with h:mm, h:mm:ss and AM or PM behind it.
     std::string GetDateFormatA(const SystemTime& time) override;
     std::string GetTimeFormatA(const SystemTime& time) override;
     void Sleep(std::uint32_t milliseconds) override;
+    // Dates in the order and with the separator of the short form, the year with two or four
+    // digits, or yyyy-mm-dd; each also with h:mm, h:mm:ss and AM or PM behind it.
     std::optional<OleDate> VarDateFromStr(const std::string& text) override;
 
   private:
     CallJournal& journal_;
     SystemTime now_ = MakeTime(2004, 6, 1, 12);
     int offsetMinutes_ = 0;
+    std::string shortDate_ = "M/d/yyyy";
     bool hasAutomation_ = true;
     std::uint32_t slept_ = 0;
 };

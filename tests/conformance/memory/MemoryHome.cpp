@@ -61,6 +61,7 @@ class MemoryHome : public Home {
     }
     std::string MissingDrive() override { return "Q:"; }
 
+    void SetShortDate(const std::string& form) override { memory_.clock.SetShortDate(form); }
     void SetVariable(const std::string& name, const std::string& value) override {
         memory_.system.SetVariable(name, value);
     }

@@ -106,6 +106,9 @@ class Win32Home : public Home {
         ::RegCloseKey(key);
     }
     ~Win32Home() override {
+        if (!formerShortDate_.empty()) {
+            SetShortDate(formerShortDate_);
+        }
         for (const HANDLE child : children_) {
             ::TerminateProcess(child, 0);
             ::CloseHandle(child);
@@ -196,6 +199,14 @@ class Win32Home : public Home {
         return std::string(1, letter) + ":";
     }
 
+    void SetShortDate(const std::string& form) override {
+        if (formerShortDate_.empty()) {
+            char former[128] = "";
+            GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, former, sizeof(former));
+            formerShortDate_ = former;
+        }
+        SetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, form.c_str());
+    }
     void SetVariable(const std::string& name, const std::string& value) override {
         SetEnvironmentVariableA(name.c_str(), value.c_str());
     }
@@ -237,6 +248,7 @@ class Win32Home : public Home {
 
     Win32Machine win32_;
     std::string folder_;
+    std::string formerShortDate_;  // empty as long as it is the user's own
     std::vector<HANDLE> children_;
     std::vector<HANDLE> handles_;
     std::vector<HWND> windows_;
