@@ -6,26 +6,24 @@
 
 #include "base/Dates.h"
 #include "shell/Application.h"
-#include "shell/FilePaths.h"
-#include "shell/ShellOpen.h"
+#include "shell/InstalledTool.h"
 
 namespace velkarix {
 
 namespace {
 
 constexpr int DaysBeforeUpdate = 15;
-constexpr std::uint32_t LastLaunchError = 31;  // WinExec gives more than that on success
-constexpr int FileNotFoundFault = 53;
-
-std::string DatabaseFile(Application& application) {
-    return application.settings.InstallFolder() + "\\database.ini";
-}
+constexpr InstalledTool UpdateProgram{"\\MorVane.exe", "\\Morvane.exe", "Update utlity not found."};
 
 }  // namespace
 
+std::string DatabaseFile(Settings& settings) {
+    return settings.InstallFolder() + "\\database.ini";
+}
+
 void CheckForUpdate(Application& application) {
     const std::string last =
-        application.settings.ReadIni("Update", "Last", "", DatabaseFile(application));
+        application.settings.ReadIni("Update", "Last", "", DatabaseFile(application.settings));
     const std::optional<OleDate> updated = application.machine.clock.VarDateFromStr(last);
     if (!updated) return;
     const SystemTime now = application.machine.clock.GetLocalTime();
@@ -35,21 +33,13 @@ void CheckForUpdate(Application& application) {
 }
 
 void LaunchUpdater(Application& application, bool silent) {
+    if (!FindTool(application, UpdateProgram, silent)) return;
     Settings& settings = application.settings;
-    const std::string folder = settings.InstallFolder();
-    if (!PathExists(application.machine.files, folder + "\\MorVane.exe")) {
-        if (!silent) application.Tell(MessageIcon::Critical, "Update utlity not found.");
-        return;
-    }
-    const std::string version =
-        settings.ReadIni("Database", "Version", "", DatabaseFile(application));
-    const std::string versionFile = folder + "\\version.ini";
+    const std::string version = settings.ReadIni("Database", "Version", "", DatabaseFile(settings));
+    const std::string versionFile = settings.InstallFolder() + "\\version.ini";
     settings.WriteIni("Application", "Name", ApplicationTitle, versionFile);
     settings.WriteIni("Application", "Version", version, versionFile);
-    const std::string command = "\"" + folder + "\\Morvane.exe\"" + (silent ? " -s" : "");
-    if (application.machine.shell.WinExec(command, ShowNormal) <= LastLaunchError) {
-        application.EndWithFault(FileNotFoundFault, "File not found");
-    }
+    StartTool(application, UpdateProgram, silent ? " -s" : "");
 }
 
 }  // namespace velkarix
