@@ -114,6 +114,70 @@ TEST_F(UpdaterTest, LeavesDefinitionsOfFifteenDaysAlone) {
     EXPECT_EQ(Launches(), none);
 }
 
+TEST_F(UpdaterTest, LeavesDefinitionsAloneUpToThatAge) {
+    InstallUpdater();
+    Settings(laterRun);
+    for (const char* last : {"6/16/2004", "6/15/2004", "6/2/2004"}) {  // 0, 1 and 14 days
+        Database(last);
+        CheckForUpdate(program.application);
+        EXPECT_EQ(Launches(), none) << last;
+    }
+}
+
+// Those of the United States, the United Kingdom, Germany and Japan.
+TEST_F(UpdaterTest, CountsTheDaysInTheUsersFormOfDates) {
+    struct Dates {
+        const char* form;
+        const char* fifteenDays;
+        const char* sixteenDays;
+        const char* aheadOfToday;
+    };
+    const Dates all[] = {{"M/d/yyyy", "6/1/2004", "5/31/2004", "6/17/2004"},
+                         {"dd/MM/yyyy", "01/06/2004", "31/05/2004", "17/06/2004"},
+                         {"dd.MM.yyyy", "01.06.2004", "31.05.2004", "17.06.2004"},
+                         {"yyyy/MM/dd", "2004/06/01", "2004/05/31", "2004/06/17"}};
+    InstallUpdater();
+    for (const Dates& dates : all) {
+        program.machine.clock.SetShortDate(dates.form);
+        const std::size_t before = Launches().size();
+        for (const char* last : {dates.fifteenDays, dates.aheadOfToday, "***", "soon", ""}) {
+            Database(last);
+            CheckForUpdate(program.application);
+            EXPECT_EQ(Launches().size(), before) << dates.form << " " << last;
+        }
+        Database(dates.sixteenDays);
+        CheckForUpdate(program.application);
+        EXPECT_EQ(Launches().size(), before + 1) << dates.form;
+    }
+}
+
+// The date that the utilities page writes for a new installation is one that is read again.
+TEST_F(UpdaterTest, CountsFromTheDayThatTheUtilitiesPageWasFirstOpened) {
+    InstallUpdater();
+    for (const char* form : {"M/d/yyyy", "dd/MM/yyyy", "dd.MM.yyyy", "yyyy/MM/dd"}) {
+        program.machine.clock.SetShortDate(form);
+        program.machine.clock.SetLocalTime(MakeTime(2004, 6, 16, 9));
+        Database("***");
+        program.application.forms.Show("frmUtilities");
+        program.application.forms.Unload("frmUtilities");
+        const std::size_t before = Launches().size();
+        program.machine.clock.SetLocalTime(MakeTime(2004, 7, 1, 9));
+        CheckForUpdate(program.application);
+        EXPECT_EQ(Launches().size(), before) << form;
+        program.machine.clock.SetLocalTime(MakeTime(2004, 7, 2, 0));
+        CheckForUpdate(program.application);
+        EXPECT_EQ(Launches().size(), before + 1) << form;
+    }
+}
+
+TEST_F(UpdaterTest, StartsNothingWithoutTheAutomationLibrary) {
+    InstallUpdater();
+    program.machine.clock.SetHasAutomation(false);
+    Database("1/1/2004");
+    CheckForUpdate(program.application);
+    EXPECT_EQ(Launches(), none);
+}
+
 // Calendar days count, not spans of 24 hours.
 TEST_F(UpdaterTest, CountsCalendarDays) {
     InstallUpdater();
