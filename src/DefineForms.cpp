@@ -9,11 +9,11 @@
 #include "process/VerdictCache.h"
 #include "process/frmProcess.h"
 #include "shell/Application.h"
-#include "shell/PageToCome.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 #include "shell/frmviewInfo.h"
 #include "startup/frmStartup.h"
+#include "utilities/frmUtilities.h"
 
 namespace velkarix {
 
@@ -25,14 +25,6 @@ void DefineForm(Application& application, const char* name) {
                              [&application] { return std::make_unique<FormClass>(application); });
 }
 
-struct ToCome {
-    const char* name;
-    const char* what;
-};
-const ToCome PagesToCome[] = {
-    {"frmUtilities", "Utilities"},
-};
-
 }  // namespace
 
 void DefineForms(Application& application) {
@@ -40,6 +32,7 @@ void DefineForms(Application& application) {
     DefineForm<frmAbout>(application, "frmAbout");
     DefineForm<frmIE>(application, "frmIE");
     DefineForm<frmAddRemove>(application, "frmAddRemove");
+    DefineForm<frmUtilities>(application, "frmUtilities");
     DefineForm<frmviewInfo>(application, "frmviewInfo");
     // The cache lives as long as the program: a page that is left and entered hashes nothing again.
     application.forms.Define("frmProcess",
@@ -55,10 +48,6 @@ void DefineForms(Application& application) {
     application.forms.Define("frmStartup", [&application, told = std::make_shared<bool>(false)] {
         return std::make_unique<frmStartup>(application, *told);
     });
-    for (const ToCome& page : PagesToCome) {
-        application.forms.Define(
-            page.name, [page] { return std::make_unique<PageToCome>(page.name, page.what); });
-    }
 }
 
 }  // namespace velkarix

@@ -165,14 +165,6 @@ TEST_F(MainFormTest, SwitchesPagesByKeys) {
     EXPECT_FALSE(Main().RaiseKey(Key::Digit2, false));
 }
 
-TEST_F(MainFormTest, SaysWhereAPageIsStillToCome) {
-    program.Start();
-    Click("cmdUtilities");
-    EXPECT_EQ(program.Get<Label>("frmUtilities", "lblToCome").Text(),
-              "Utilities: this page is not built yet. It comes with a later version of "
-              "the program.");
-}
-
 TEST_F(MainFormTest, OpensTheHelpIndex) {
     program.AddInstalledFile("Help\\index.html").Content("<html>");
     program.Start();
