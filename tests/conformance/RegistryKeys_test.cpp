@@ -60,6 +60,24 @@ TEST_P(RegistryConformance, ABackslashAtTheStartOfAPathIsAnError) {
     EXPECT_NE(Open("\\Key"), error::Success);
 }
 
+TEST_P(RegistryConformance, SeveralBackslashesBetweenLevelsCountOnce) {
+    Create("Key\\\\Below");
+    EXPECT_EQ(Open("Key\\Below"), error::Success);
+    EXPECT_EQ(registry_.RegDeleteKeyA(scratch_, "Key\\\\\\Below"), error::Success);
+    EXPECT_EQ(Open("Key\\Below"), error::FileNotFound);
+    EXPECT_EQ(Open("Key"), error::Success);
+}
+
+// None of them leads to the key above or back to the key itself.
+TEST_P(RegistryConformance, BlanksAndDotsAreNamesAsAnyOther) {
+    for (const char* name : {" ", "   ", ".", "..", " Key", "Key ", "\t"}) {
+        EXPECT_EQ(Create(std::string("Above\\") + name), error::Success) << name;
+        EXPECT_EQ(SubKeys(Opened("Above", KeyAccess::Read)), std::vector<std::string>{name});
+        EXPECT_EQ(registry_.RegDeleteKeyA(scratch_, std::string("Above\\") + name), error::Success);
+        EXPECT_EQ(Open("Above"), error::Success) << name;
+    }
+}
+
 TEST_P(RegistryConformance, AnEmptyPathOpensTheKeyAgain) {
     Create("Below");
     KeyHandle again = 0;
