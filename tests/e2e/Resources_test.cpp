@@ -5,6 +5,7 @@
 #include "BrowserItems.h"
 #include "ObjectCounts.h"
 #include "ProgramTest.h"
+#include "Reports.h"
 #include "Wait.h"
 
 namespace velkarix::e2e {
@@ -96,6 +97,29 @@ TEST_F(Resources, ListsOfTheBrowserThatAreFilledAgainLeaveTheCountsWhereTheyWere
     refresh(3);
     const ObjectCounts before = Count();
     refresh(20);
+    ExpectNoMoreThan(before);
+}
+
+// Each loads and unloads the four pages that it tells of.
+TEST_F(Resources, TenFullReportsLeaveTheCountsWhereTheyWere) {
+    Start();
+    ASSERT_TRUE(Running().Press("cmdOptions"));
+    for (const char* box : {"chkProcess", "chkIE", "chkStartup", "chkAddremove"}) {
+        ASSERT_TRUE(Running().Press(box));
+    }
+    const auto make = [this](int times) {
+        for (int i = 0; i < times; ++i) {
+            install_.Remove("Full.txt");
+            ForgetOpened();
+            ASSERT_TRUE(SaveReport(Running(), "cmdReport", install_.Path("Full.txt")));
+            ASSERT_NE(Opened(), "");
+            ASSERT_TRUE(WaitUntil([this] { return Running().Control("cmdReport").Enabled(); }));
+        }
+    };
+    make(2);
+    ObjectCounts before = Count();
+    make(10);
+    before.kernel += 10;  // Wine's save dialog keeps a handle for each file that it gives
     ExpectNoMoreThan(before);
 }
 
