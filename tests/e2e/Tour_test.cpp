@@ -1,8 +1,11 @@
 // Goes round the program and has a picture taken of everything it shows.
+#include "FullReportTest.h"
 #include "Input.h"
 #include "MenuWindow.h"
 #include "ProgramTest.h"
+#include "Reports.h"
 #include "Screen.h"
+#include "Setup.h"
 #include "TabWindow.h"
 #include "TreeWindow.h"
 #include "Wait.h"
@@ -126,6 +129,17 @@ TEST_F(Tour, TheInstalledApplications) {
     EXPECT_TRUE(Picture("4-add-remove-1-icons"));
     ASSERT_TRUE(Running().Press("optReport"));
     EXPECT_TRUE(Picture("4-add-remove-2-details"));
+}
+
+TEST_F(Tour, TheFullReport) {
+    const std::string path = Environment("VELKARIX_OUT") + "\\FullReport.txt";
+    DeleteFileA(path.c_str());
+    ASSERT_TRUE(Running().Press("cmdOptions"));
+    for (const char* box : FullReportBoxes) ASSERT_TRUE(Running().Press(box));
+    ASSERT_TRUE(SaveReport(Running(), "cmdReport", path));
+    EXPECT_NE(Opened().find("\"" + path + "\""), std::string::npos);
+    EXPECT_NE(ReadWholeFile(path).find("****** Add/Remove Report ******"), std::string::npos);
+    EXPECT_TRUE(Picture("5-options-full-report"));
 }
 
 TEST_F(Tour, TheOtherPages) {
