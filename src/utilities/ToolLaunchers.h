@@ -19,10 +19,9 @@ inline constexpr ToolLauncher ToolLaunchers[] = {
     {"fmHosts",
      "Hosts File Editor",
      "lblHosts",
-     "Hosts file is used by Windows to map IP address with domain name. Many Spyware add entries "
-     "in "
-     "this file to redirect a url to their site, also an entry can be added in this file to "
-     "prevent loading a website.",
+     "Hosts file is used by Windows to map IP address with domain name. Many Spyware add "
+     "entries in this file to redirect a url to their site, also an entry can be added in this "
+     "file to prevent loading a website.",
      "cmdHosts",
      "Hosts File Editor",
      {"\\Tesselin.exe", "\\Tesselin.exe", "Hosts File Editor utlity not found."}},
@@ -30,8 +29,7 @@ inline constexpr ToolLauncher ToolLaunchers[] = {
      "Repair Winsock LSP (Layered Service Provider)",
      "lblLSP",
      "Some Spyware add files in Winsock LSP chain. Due to some reason like bad uninstallation, "
-     "this "
-     "chain breaks down leading to inability to access internet.Please read carefully the "
+     "this chain breaks down leading to inability to access internet.Please read carefully the "
      "instructions on Repair LSP. ",
      "cmdRepairLSP",
      "Repair LSP",

@@ -71,7 +71,7 @@ TEST_F(EverySystem, EachPageCanBeEntered) {
                                                          {"cmdStartup", "lstvStartup"},
                                                          {"cmdAddremove", "lstvAddRemove"},
                                                          {"cmdOptions", "lstvBackup"},
-                                                         {"cmdUtilities", "lblToCome"}};
+                                                         {"cmdUtilities", "cmdHosts"}};
     for (const auto& [button, control] : pages) {
         ASSERT_TRUE(Running().Press(button));
         EXPECT_TRUE(Running().Control(control).Visible()) << control;

@@ -65,13 +65,6 @@ TEST_F(PageStrip, CtrlAndADigitLeadsToThePageOfThatNumber) {
     }
 }
 
-TEST_F(PageStrip, APageThatIsNotBuiltYetSaysSo) {
-    ASSERT_TRUE(Running().Press("cmdUtilities"));
-    const std::string text = Running().Control("lblToCome").Text();
-    EXPECT_NE(text.find("not built yet"), std::string::npos) << text;
-    EXPECT_EQ(text.find("Utilities"), 0u) << text;
-}
-
 TEST_F(PageStrip, AClickOnTheActivePagesButtonKeepsRowsOrderAndSelection) {
     ClickAt(List().Header(0));
     ASSERT_TRUE(WaitUntil(
