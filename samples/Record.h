@@ -17,9 +17,13 @@ inline bool RecordStart() {
     const std::string record =
         std::string("command: ") + GetCommandLineA() + "\r\nfolder: " + folder + "\r\n";
 
-    const HANDLE file = CreateFileA(log.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return false;
+    // Others may be reading it; one that writes is done soon.
+    HANDLE file = INVALID_HANDLE_VALUE;
+    while ((file = CreateFileA(log.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_ALWAYS,
+                               FILE_ATTRIBUTE_NORMAL, nullptr)) == INVALID_HANDLE_VALUE) {
+        if (GetLastError() != ERROR_SHARING_VIOLATION) return false;
+        Sleep(1);
+    }
     SetFilePointer(file, 0, nullptr, FILE_END);
     DWORD written = 0;
     // In one piece, so that who waits for the file never reads half a record.
