@@ -74,5 +74,19 @@ TEST_F(Dpi, EverythingIsHalfAsLargeAgainAt144DotsAnInch) {
     EXPECT_TRUE(List().Find("SampleIdle.exe"));
 }
 
+TEST_F(Dpi, ThePageWithTheMostWordsShowsThemAll) {
+    for (const DWORD dotsPerInch : {120u, 144u}) {
+        const Resolution resolution(dotsPerInch);
+        Start();
+        ASSERT_TRUE(Running().Press("cmdUtilities"));
+        const Window page = Running().Control("frmUtilities");
+        for (const Window& child : page.Children()) {
+            EXPECT_TRUE(Within(child, page)) << child.Text() << " at " << dotsPerInch;
+        }
+        EXPECT_EQ(AskInside(Running().Main(), CutTextsQuestion), "") << dotsPerInch;
+        ASSERT_EQ(Running().Close(), 0u);
+    }
+}
+
 }  // namespace
 }  // namespace velkarix::e2e

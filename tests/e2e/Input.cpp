@@ -48,6 +48,11 @@ void PressKey(WORD key, std::initializer_list<WORD> held) {
     Put(inputs);
 }
 
+void MoveTo(POINT place) {
+    std::vector<INPUT> inputs = {MouseInput(place, 0)};
+    Put(inputs);
+}
+
 void ClickAt(POINT place, Mouse button) {
     const bool left = button == Mouse::Left;
     std::vector<INPUT> inputs = {

@@ -12,6 +12,8 @@ namespace velkarix::e2e {
 // Presses and releases a key; the others are held down meanwhile.
 void PressKey(WORD key, std::initializer_list<WORD> held = {});
 
+// Moves the mouse there and leaves it at rest.
+void MoveTo(POINT place);
 enum class Mouse { Left, Right };
 void ClickAt(POINT place, Mouse button = Mouse::Left);
 void DoubleClickAt(POINT place);

@@ -17,9 +17,9 @@ std::string ReadWholeFile(const std::string& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-Install::Install() {
+Install::Install(const std::string& title) {
     static int count = 0;
-    folder_ = ScratchFolder() + "\\" + std::to_string(++count);
+    folder_ = ScratchFolder() + "\\" + std::to_string(++count) + title;
     std::error_code failure;
     fs::copy(PreparedFolder(), folder_, fs::copy_options::recursive, failure);
 }

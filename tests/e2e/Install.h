@@ -10,7 +10,8 @@ std::string ReadWholeFile(const std::string& path);
 
 class Install {
   public:
-    Install();
+    // `title` stands in the folder's name, behind a number of its own.
+    explicit Install(const std::string& title = {});
     ~Install();
     Install(const Install&) = delete;
     Install& operator=(const Install&) = delete;

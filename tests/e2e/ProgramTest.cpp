@@ -38,7 +38,7 @@ const testing::Environment* const runningSamples =
 
 }  // namespace
 
-ProgramTest::ProgramTest() {
+ProgramTest::ProgramTest(const std::string& title) : install_(title) {
     install_.Write("Settings.ini", "[Main]\r\nFirstRun=1\r\n[Update]\r\nCheckUpdate=0\r\n");
     ForgetOpened();
 }

@@ -14,7 +14,9 @@ namespace velkarix::e2e {
 class ProgramTest : public testing::Test {
   protected:
     // An installation that has been run before and doesn't look for updates.
-    ProgramTest();
+    ProgramTest() : ProgramTest("") {}
+    // Likewise, in a folder with that in its name.
+    explicit ProgramTest(const std::string& title);
 
     // Starts the program and waits until its first page stands.
     Program& Start();

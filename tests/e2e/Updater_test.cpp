@@ -1,4 +1,5 @@
 // The hand-over to the update program: at the first run, and when the definitions are old.
+#include "LastUpdate.h"
 #include "ProgramTest.h"
 #include "Wait.h"
 
@@ -12,26 +13,6 @@ class Updater : public ProgramTest {
   protected:
     // The settings of an installation that has been run before.
     void CheckForUpdates() { install_.Write("Settings.ini", "[Main]\r\nFirstRun=1\r\n"); }
-    // The day so many days ago, as the system writes dates.
-    static std::string DaysAgo(int days) {
-        SYSTEMTIME now{};
-        GetLocalTime(&now);
-        ULARGE_INTEGER time{};
-        FILETIME file{};
-        SystemTimeToFileTime(&now, &file);
-        time.LowPart = file.dwLowDateTime;
-        time.HighPart = file.dwHighDateTime;
-        time.QuadPart -= static_cast<ULONGLONG>(days) * 24 * 60 * 60 * 10'000'000;
-        file = {time.LowPart, time.HighPart};
-        FileTimeToSystemTime(&file, &now);
-        char text[64] = "";
-        GetDateFormatA(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &now, nullptr, text, sizeof text);
-        return text;
-    }
-    void SetLastUpdate(const std::string& date) {
-        install_.Write("database.ini",
-                       "[Database]\r\nVersion=7.5\r\n[Update]\r\nLast=" + date + "\r\n");
-    }
     bool Launched(DWORD patience = Patience) {
         return WaitUntil([this] { return !install_.Read("MorVane.log").empty(); }, patience);
     }
@@ -39,7 +20,7 @@ class Updater : public ProgramTest {
 
 TEST_F(Updater, TheFirstRunStartsItAndTellsItWhatToUpdate) {
     install_.Remove("Settings.ini");
-    SetLastUpdate("***");
+    SetLastUpdate(install_, "***");
     Start();
     ASSERT_TRUE(Launched());
     EXPECT_EQ(install_.Read("MorVane.log"),
@@ -62,14 +43,14 @@ TEST_F(Updater, TheFirstRunWithoutUpdateProgramCountsAllTheSame) {
 
 TEST_F(Updater, ALastUpdate16DaysAgoStartsIt) {
     CheckForUpdates();
-    SetLastUpdate(DaysAgo(16));
+    SetLastUpdate(install_, DaysAgo(16));
     Start();
     EXPECT_TRUE(Launched());
 }
 
 TEST_F(Updater, ALastUpdate15DaysAgoDoesNotStartIt) {
     CheckForUpdates();
-    SetLastUpdate(DaysAgo(15));
+    SetLastUpdate(install_, DaysAgo(15));
     Start();
     EXPECT_FALSE(Launched(AfterTheTimer));
 }
@@ -77,7 +58,7 @@ TEST_F(Updater, ALastUpdate15DaysAgoDoesNotStartIt) {
 TEST_F(Updater, TheSettingSwitchesTheCheckOff) {
     CheckForUpdates();
     WritePrivateProfileStringA("Update", "CheckUpdate", "0", install_.Path("Settings.ini").c_str());
-    SetLastUpdate(DaysAgo(100));
+    SetLastUpdate(install_, DaysAgo(100));
     Start();
     EXPECT_FALSE(Launched(AfterTheTimer));
 }
