@@ -7,6 +7,10 @@ namespace velkarix::e2e {
 
 void FullReportTest::OpenOptions(const std::vector<std::string>& boxes) {
     Start();
+    ChooseAreas(boxes);
+}
+
+void FullReportTest::ChooseAreas(const std::vector<std::string>& boxes) {
     EXPECT_TRUE(Running().Press("cmdOptions"));
     for (const std::string& box : boxes) EXPECT_TRUE(Running().Press(box)) << box;
 }

@@ -5,16 +5,20 @@
 #include <string>
 #include <vector>
 
-#include "ProgramTest.h"
+#include "StartupTest.h"
 
 namespace velkarix::e2e {
 
 inline constexpr const char* FullReportBoxes[] = {"chkProcess", "chkIE", "chkStartup",
                                                   "chkAddremove"};
 
-class FullReportTest : public ProgramTest {
+// With the startup items that the system takes away when it starts.
+class FullReportTest : public StartupTest {
   protected:
-    // Starts the program and ticks these boxes of the options page.
+    // Enters the options page and ticks these boxes, or all.
+    void ChooseAreas(const std::vector<std::string>& boxes);
+    void ChooseAreas() { ChooseAreas({std::begin(FullReportBoxes), std::end(FullReportBoxes)}); }
+    // The same in a program that is started for it.
     void OpenOptions(const std::vector<std::string>& boxes);
     void OpenOptions() { OpenOptions({std::begin(FullReportBoxes), std::end(FullReportBoxes)}); }
     // Has the report saved as `name` in the installation's folder, and comes back as soon as it is

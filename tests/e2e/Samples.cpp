@@ -3,7 +3,9 @@
 #include <windows.h>
 
 #include <array>
+#include <iterator>
 #include <optional>
+#include <vector>
 
 #include "Setup.h"
 
@@ -31,7 +33,11 @@ constexpr SampleVersion Versions[] = {
     {"SampleHook.dll", "Harmless search hook", "Finds nothing"},
 };
 
-constexpr std::size_t FactCount = 12;
+constexpr const char* FactNames[] = {"ProductName",     "ProductVersion", "FileDescription",
+                                     "FileVersion",     "InternalName",   "OriginalFilename",
+                                     "Comments",        "CompanyName",    "LegalCopyright",
+                                     "LegalTrademarks", "PrivateBuild",   "SpecialBuild"};
+constexpr std::size_t FactCount = std::size(FactNames);
 
 const SampleVersion* VersionOf(const std::string& path) {
     for (const SampleVersion& version : Versions) {
@@ -64,6 +70,20 @@ std::string DateText(const WIN32_FIND_DATAA& file) {
     return text;
 }
 
+// The eight digits that the strings of a version resource lie under.
+std::string FirstTranslation(std::vector<char>& block) {
+    void* found = nullptr;
+    UINT length = 0;
+    if (!VerQueryValueA(block.data(), "\\VarFileInfo\\Translation", &found, &length) ||
+        length < 2 * sizeof(WORD)) {
+        return "";
+    }
+    const auto* words = static_cast<const WORD*>(found);
+    char digits[16] = "";
+    wsprintfA(digits, "%04X%04X", words[0], words[1]);
+    return digits;
+}
+
 }  // namespace
 
 RowTexts ShownFacts(const std::string& path) {
@@ -89,6 +109,27 @@ RowTexts VersionFacts(const std::string& path) {
             "None",
             "",
             ""};
+}
+
+RowTexts FileVersionFacts(const std::string& path) {
+    if (VersionOf(path) != nullptr) return VersionFacts(path);
+    RowTexts facts(FactCount);
+    DWORD unused = 0;
+    std::vector<char> block(GetFileVersionInfoSizeA(path.c_str(), &unused));
+    if (block.empty() ||
+        !GetFileVersionInfoA(path.c_str(), 0, static_cast<DWORD>(block.size()), block.data())) {
+        return facts;
+    }
+    const std::string strings = "\\StringFileInfo\\" + FirstTranslation(block) + "\\";
+    for (std::size_t i = 0; i < FactCount; ++i) {
+        void* text = nullptr;
+        UINT length = 0;
+        const std::string name = strings + FactNames[i];
+        if (VerQueryValueA(block.data(), name.c_str(), &text, &length) && length != 0) {
+            facts[i] = static_cast<const char*>(text);
+        }
+    }
+    return facts;
 }
 
 std::string SearchedSamplePath() {

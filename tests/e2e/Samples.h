@@ -14,6 +14,9 @@ RowTexts ShownFacts(const std::string& path);
 // The twelve version facts in the order of the reports; empty texts for a file without them.
 RowTexts VersionFacts(const std::string& path);
 
+// The same of any file: of one that isn't a sample, as the system tells them.
+RowTexts FileVersionFacts(const std::string& path);
+
 // The full path of the program that is found along the search path.
 std::string SearchedSamplePath();
 
