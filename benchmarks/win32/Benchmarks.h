@@ -21,6 +21,10 @@ bool MeasurePages(const std::string& program);
 // how that grows. The keys are made below a key of the benchmark's own, which is removed again.
 bool MeasureDomains();
 
+// Prints what the protection from up to 50,000 ActiveX controls costs beside the bare registry
+// calls, and how that grows. Keys and list are the benchmark's own and are removed again.
+bool MeasureActiveX();
+
 double Now();  // seconds
 
 // The median of the seconds of each piece of work, run in turn, so that a slow moment of the

@@ -16,5 +16,6 @@ int main(int argc, char** argv) {
     const bool digested = velkarix::MeasureFileDigest(argv[1], argc > 3 ? std::atof(argv[3]) : 0);
     const bool filled = velkarix::MeasurePages(argv[2]);
     const bool listed = velkarix::MeasureDomains();
-    return digested && filled && listed ? 0 : 1;
+    const bool isProtected = velkarix::MeasureActiveX();
+    return digested && filled && listed && isProtected ? 0 : 1;
 }
