@@ -11,7 +11,7 @@
 namespace velkarix {
 
 // Gives the code of what failed, FileNotFound when there is no such file; `text` is the file's
-// bytes on Success.
+// bytes on Success, else those that were read before.
 ErrorCode ReadTextFile(FileSystem& files, const std::string& path, std::string& text);
 // The file's bytes; nothing when it can't be opened or read to its end.
 std::optional<std::string> ReadTextFile(FileSystem& files, const std::string& path);

@@ -94,11 +94,13 @@ void frmUtilities::Form_Unload() {
 std::string frmUtilities::LastUpdate() {
     Settings& settings = application_.settings;
     const std::string file = DatabaseFile(settings);
-    const std::string last = settings.ReadIni("Update", "Last", "", file);
-    if (last != NeverUpdated) return last;
-    Clock& clock = application_.machine.clock;
-    settings.WriteIni("Update", "Last", clock.GetDateFormatA(clock.GetLocalTime()), file);
-    return settings.ReadIni("Update", "Last", "", file);
+    std::string last = settings.ReadIni("Update", "Last", "", file);
+    if (last == NeverUpdated) {
+        Clock& clock = application_.machine.clock;
+        settings.WriteIni("Update", "Last", clock.GetDateFormatA(clock.GetLocalTime()), file);
+        last = settings.ReadIni("Update", "Last", "", file);
+    }
+    return last;
 }
 
 void frmUtilities::cmdUpdateDefinition_Click() {
