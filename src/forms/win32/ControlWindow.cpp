@@ -29,7 +29,6 @@ ControlWindow::ControlWindow(DesktopContext& context, Control& model, const Cont
 
 void ControlWindow::Detach() {
     model_.AttachView(nullptr);
-    toolTip_.reset();
     context_.visibility.Forget(handle_);
     RemoveWindowName(handle_);
     SetWindowLongPtrA(handle_, GWLP_USERDATA, 0);
