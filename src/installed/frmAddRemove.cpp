@@ -4,7 +4,6 @@
 #include "shell/ItemChange.h"
 #include "shell/Report.h"
 #include "shell/ShellOpen.h"
-#include "shell/Skin.h"
 
 namespace velkarix {
 
@@ -22,12 +21,7 @@ constexpr int DetailOption = 1;
 
 constexpr const char* RefreshHandler = "cmdRefresh_Click";
 
-struct ButtonEntry {
-    const char* name;
-    const char* caption;
-    void (frmAddRemove::*command)();
-};
-constexpr ButtonEntry Buttons[] = {
+constexpr CommandButton<frmAddRemove> Buttons[] = {
     {"cmdUninstall", "Uninstall", &frmAddRemove::cmdUninstall_Click},
     {"cmdDelete", "Delete Entry", &frmAddRemove::cmdDelete_Click},
     {"cmdReport", "Generate Report", &frmAddRemove::cmdReport_Click},
@@ -65,12 +59,7 @@ void frmAddRemove::MakeLayout() {
     OptionButton& details = views_.Option(DetailOption);
     std::vector<Control*> controls = {&lstvAddRemove_, &fmInstalled_, &icon, &details};
     Layout buttons = UniformRow({});
-    for (const ButtonEntry& each : Buttons) {
-        buttons_.push_back(std::make_unique<Button>(
-            each.name, each.caption, [this, command = each.command] { (this->*command)(); }));
-        controls.push_back(buttons_.back().get());
-        buttons.children.push_back(Item(*buttons_.back()));
-    }
+    buttons_.Make<frmAddRemove>(*this, Buttons, controls, buttons);
     SetControls(std::move(controls));
     SetAccelerators({{Key::F5, false, RefreshHandler}});
     SetLayout(Column(
@@ -79,7 +68,7 @@ void frmAddRemove::MakeLayout() {
 }
 
 void frmAddRemove::Form_Load() {
-    for (const auto& button : buttons_) SkinControl(*button, "button");
+    buttons_.ApplySkin();
     if (RoundedNumber(application_.settings.ReadIni("Main", "View", "0")) == DetailView) {
         CurrentView_ = DetailView;
         views_.Choose(DetailOption);

@@ -4,16 +4,15 @@
 
 #include <cstdint>
 #include <map>
-#include <memory>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "forms/Controls.h"
 #include "forms/Form.h"
 #include "forms/ImageList.h"
 #include "forms/ListView.h"
 #include "shell/Application.h"
+#include "shell/CommandButtons.h"
 #include "shell/ListServices.h"
 
 namespace velkarix {
@@ -65,7 +64,7 @@ class frmAddRemove : public Form {
     ImageList ImgLarge_;
     Frame fmInstalled_;
     OptionGroup views_;
-    std::vector<std::unique_ptr<Button>> buttons_;
+    CommandButtons buttons_;
 };
 
 }  // namespace velkarix

@@ -4,7 +4,6 @@
 
 #include "shell/FilePaths.h"
 #include "shell/Report.h"
-#include "shell/Skin.h"
 #include "shell/frmviewInfo.h"
 #include "startup/StartupColumns.h"
 
@@ -12,14 +11,8 @@ namespace velkarix {
 
 namespace {
 
-struct ButtonEntry {
-    const char* name;
-    const char* caption;
-    void (frmStartup::*command)();
-};
-
 // Row after row, four in a row.
-constexpr ButtonEntry Buttons[] = {
+constexpr CommandButton<frmStartup> Buttons[] = {
     {"cmdDisable", "Disable Checked Items", &frmStartup::cmdDisable_Click},
     {"cmdDelete", "Delete Selected item", &frmStartup::cmdDelete_Click},
     {"cmdReport", "Generate Report", &frmStartup::cmdReport_Click},
@@ -52,12 +45,7 @@ frmStartup::frmStartup(Application& application, bool& toldOfShortcuts)
 void frmStartup::MakeLayout() {
     std::vector<Control*> controls = {&tvwStartup_, &fmStartup_, &lstvStartup_};
     Layout buttons = Grid(ButtonColumns, {});
-    for (const ButtonEntry& each : Buttons) {
-        buttons_.push_back(std::make_unique<Button>(
-            each.name, each.caption, [this, command = each.command] { (this->*command)(); }));
-        controls.push_back(buttons_.back().get());
-        buttons.children.push_back(Item(*buttons_.back()));
-    }
+    buttons_.Make<frmStartup>(*this, Buttons, controls, buttons);
     SetControls(std::move(controls));
     SetAccelerators({{Key::F5, false, "cmdRefresh_Click"}});
     SetLayout(Column({Row({Column({Item(tvwStartup_, 1)}),
@@ -67,7 +55,7 @@ void frmStartup::MakeLayout() {
 }
 
 void frmStartup::Form_Load() {
-    for (const auto& button : buttons_) SkinControl(*button, "button");
+    buttons_.ApplySkin();
     ResolveFolders();
     ClearStartupList();
     shortcuts_.emplace(application_.machine.shortcuts, application_.machine.files);

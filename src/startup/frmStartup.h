@@ -3,11 +3,9 @@
 #pragma once
 
 #include <map>
-#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "forms/Controls.h"
 #include "forms/Form.h"
@@ -15,6 +13,7 @@
 #include "forms/ListView.h"
 #include "forms/TreeView.h"
 #include "shell/Application.h"
+#include "shell/CommandButtons.h"
 #include "shell/FileRows.h"
 #include "shell/ListServices.h"
 #include "shell/ShortcutFacts.h"
@@ -105,7 +104,7 @@ class frmStartup : public Form {
     Frame fmStartup_;
     ListView lstvStartup_;
     ImageList imglStartup_;
-    std::vector<std::unique_ptr<Button>> buttons_;
+    CommandButtons buttons_;
 };
 
 }  // namespace velkarix
