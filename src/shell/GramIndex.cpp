@@ -46,7 +46,7 @@ bool GramIndex::MakeRoom(std::size_t samples) {
     // One more than there are samples, since their numbers begin at 1.
     const std::size_t links = sampleCount_ + 1;
     if (samples >= links_.Capacity() &&
-        !links_.Grow(std::max(samples + 1, links + links / 2), sampleCount_ == 0 ? 0 : links)) {
+        !links_.Grow(std::max(samples + 1, links + links / 2), headCount_ == 0 ? 0 : links)) {
         return false;
     }
     if (samples <= headCount_ << SampleBitsPerHead) return true;

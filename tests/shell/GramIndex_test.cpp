@@ -90,6 +90,17 @@ TEST(GramIndexTest, GivesUpOnATextThatRepeatsItself) {
     EXPECT_EQ(index.Contains(text, std::string(Shortest, 'x').append("y")), std::nullopt);
 }
 
+// The sanitizers fill the memory that it grows into.
+TEST(GramIndexTest, KnowsWhereAChainEndsWhenItGrowsBeforeItsFirstSample) {
+    std::mt19937 random(3);
+    const std::string text = RandomText(random, 1000, 6);
+    GramIndex index;
+    index.Reserve(1);
+    index.Extend(text);
+    EXPECT_EQ(index.Contains(text, text.substr(500, 40)), true);
+    EXPECT_EQ(index.Contains(text, std::string(32, 'z')), false);
+}
+
 TEST(GramIndexTest, GrowsWithATextThatNobodyAnnounced) {
     std::mt19937 random(2);
     const std::string text = RandomText(random, 400'000, 6);
