@@ -32,6 +32,7 @@ class frmOptions : public Form {
     void ColorBox_DblClick(std::size_t box);
     void AddBackupRow(const std::string& path, const std::string& date, const std::string& prcName);
     std::string BackupFile(const std::string& name);
+    bool IsBackup(const std::string& path);
     void DeleteSet(const std::string& first, const std::string& second);
 
     Application& application_;

@@ -33,6 +33,11 @@ std::string frmOptions::BackupFile(const std::string& name) {
     return BackupFolder(application_.settings.InstallFolder()) + name;
 }
 
+// What is restored into the folder of the backups would replace one of them, or itself.
+bool frmOptions::IsBackup(const std::string& path) {
+    return ToLower(path).starts_with(ToLower(BackupFile({})));
+}
+
 void frmOptions::LoadBackupList() {
     lstvBackup_.Clear();
     FileSystem& files = application_.machine.files;
@@ -59,6 +64,10 @@ void frmOptions::cmdrestore_Click() {
     if (row == nullptr) return;
     FileSystem& files = application_.machine.files;
     const std::string full = SavedPath(*row);
+    if (IsBackup(full)) {
+        application_.Tell(MessageIcon::Information, "File Could not be restored");
+        return;
+    }
     if (PathExists(files, full) && files.DeleteFileA(full) != error::Success) {
         application_.Tell(MessageIcon::Critical,
                           "There is already an application running with same name and path.");

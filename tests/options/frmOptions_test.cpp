@@ -225,6 +225,24 @@ TEST_F(OptionsPageTest, SaysThatItCouldNotCopyToAMissingDrive) {
     EXPECT_EQ(Copy("1"), "the program");
 }
 
+TEST_F(OptionsPageTest, RestoresNothingOverTheBackupsThemselves) {
+    const std::vector<std::string> over = {"1.bup", "2.prc", "4.bup", "5.bup"};
+    for (std::size_t i = 0; i < over.size(); ++i) {
+        AddBackup(std::to_string(i + 1),
+                  "c:\\velkarix\\BACKUP\\" + over[i] + "\x01" + "6/1/2004\r\n");
+    }
+    Open();
+    Click("chkDelete");
+    for (std::size_t i = 0; i < over.size(); ++i) {
+        List().UserSelect(&List().Row(i));
+        Click("cmdrestore");
+    }
+    EXPECT_EQ(Told(), RowTexts(over.size(), "File Could not be restored"));
+    EXPECT_EQ(List().RowCount(), over.size());
+    for (const char* stem : {"1", "2", "3", "4"}) EXPECT_EQ(Copy(stem), "the program");
+    EXPECT_EQ(Copy("5"), "(no file)");
+}
+
 // The one place where a file is given up: the present one went before its copy turned out to be
 // missing.
 TEST_F(OptionsPageTest, HasDeletedThePresentFileWhenTheCopyIsMissing) {
