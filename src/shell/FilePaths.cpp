@@ -1,10 +1,27 @@
 #include "shell/FilePaths.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "base/Text.h"
 #include "shell/DirectorySearch.h"
 #include "shell/ShellOpen.h"
 
 namespace velkarix {
+
+namespace {
+
+// Whether a path, with a backslash at its end, tells a drive and the name of each level below it.
+// The names of the levels of any other would make the path of another file.
+bool IsPlain(std::string_view path) {
+    constexpr std::string_view Signs[] = {"/", "\\.\\", "\\..\\", "*", "?"};
+    return path.substr(1, 2) == ":\\" &&
+           std::none_of(std::begin(Signs), std::end(Signs), [&](std::string_view sign) {
+               return path.find(sign) != std::string_view::npos;
+           });
+}
+
+}  // namespace
 
 bool PathExists(FileSystem& files, const std::string& path) {
     const std::optional<bool> exists = files.PathFileExistsA(path);
@@ -40,6 +57,7 @@ std::string ExpandEnvPath(SystemFacts& system, const std::string& path) {
 std::string GetLongPath(FileSystem& files, const std::string& path) {
     constexpr std::size_t FirstLevel = 3;  // behind the drive: "C:\"
     const std::string levels = path + "\\";
+    if (!IsPlain(levels)) return path;
     std::string longPath = path.substr(0, 2);
     for (std::size_t end = levels.find('\\', FirstLevel); end != std::string::npos;
          end = levels.find('\\', end + 1)) {

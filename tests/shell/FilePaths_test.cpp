@@ -96,6 +96,17 @@ TEST_F(FilePathsTest, APathWithALevelThatDoesntExistComesBackUnchanged) {
     EXPECT_EQ(Long("PROGRA~1 /s"), "PROGRA~1 /s");
 }
 
+TEST_F(FilePathsTest, APathThatDoesntTellEachLevelByItsNameComesBackUnchanged) {
+    machine.AddFile("C:\\Velkarix\\a~b");
+    machine.AddFile("C:\\Velkarix\\Sub\\a~b");
+    for (const char* path :
+         {"C:/PROGRA~1/SOMETO~1/LONGNA~1.EXE", "C:\\PROGRA~1/SOMETO~1\\LONGNA~1.EXE",
+          "C:\\WINDOWS\\..\\PROGRA~1", "C:\\WINDOWS\\.\\..\\PROGRA~1\\SOMETO~1\\..",
+          "C:\\PROGRA~1\\SOMETO~1\\*.EXE", "C:\\P??????????~*", "a~b", "Sub\\a~b", "C:Sub\\a~b"}) {
+        EXPECT_EQ(Long(path), path);
+    }
+}
+
 TEST_F(FilePathsTest, TooShortAPathForALevelComesBackUnchanged) {
     EXPECT_EQ(Long(""), "");
     EXPECT_EQ(Long("~"), "~");
