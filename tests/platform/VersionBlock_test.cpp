@@ -209,6 +209,15 @@ TEST(VersionBlock, ABlockThatCouldBeTakenForTheOtherFormIsNotSound) {
     EXPECT_EQ(QueryVersionBlock(oddName, Version), Text("1.2"));
 }
 
+TEST(VersionBlock, ANodeOfATypeThatIsNotKnownIsNotSound) {
+    for (const char16_t* name : {u"StringFileInfo", u"FileVersion", u"Translation"}) {
+        auto block = Sample(Wide);
+        block[NodeStart(block, name) + 4] = 2;
+        EXPECT_FALSE(IsVersionBlockSound(block));
+        EXPECT_TRUE(QueryVersionBlock(block, Version));
+    }
+}
+
 TEST(VersionBlock, WhatRemainsBehindTheLastNodeMustBeZeros) {
     // Compilers that don't count a text's NUL leave it behind the value.
     auto block = Wide.Program({Wide.Node(u"CompanyName", 2, 1, {'A', 0, 'b', 0, 0, 0})});
