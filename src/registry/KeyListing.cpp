@@ -10,6 +10,13 @@ namespace {
 constexpr std::uint32_t ValueNameCapacity = 2 * 16383 + 1;
 constexpr std::uint32_t KeyNameCapacity = 2 * 255 + 1;
 
+const std::string& NameOf(const RawValue& value) {
+    return value.name;
+}
+const std::string& NameOf(const std::string& key) {
+    return key;
+}
+
 // `read` gives what stands at an index, or the code why not.
 template <typename Item, typename Read>
 ErrorCode ListAll(std::vector<Item>& items, Read read) {
@@ -19,6 +26,7 @@ ErrorCode ListAll(std::vector<Item>& items, Read read) {
         const ErrorCode result = read(index, item);
         if (result == error::NoMoreItems) return error::Success;
         if (result != error::Success) return result;
+        if (!IsReachable(NameOf(item))) return error::InvalidData;
         items.push_back(std::move(item));
     }
 }

@@ -12,8 +12,8 @@ namespace velkarix {
 // No tree of the system is deeper; a link that leads back up makes an endless one.
 inline constexpr int DeepestKeyLevel = 512;
 
-// Each replaces the list. Success means that nothing is missing from it; else the code of what
-// couldn't be read.
+// Each replaces the list. Success means that nothing is missing from it, and that all in it can be
+// reached by its name; else the code of what couldn't be read, InvalidData for such a name.
 ErrorCode ListValues(Registry& registry, KeyHandle key, std::vector<RawValue>& values);
 ErrorCode ListSubKeys(Registry& registry, KeyHandle key, std::vector<std::string>& names);
 

@@ -45,6 +45,10 @@ bool MakeRoom(Bytes& buffer, std::uint32_t size) {
     return true;
 }
 
+bool IsReachable(std::string_view name) {
+    return name.find('\0') == std::string_view::npos;
+}
+
 ErrorCode EnumRawValue(Registry& registry, KeyHandle key, std::uint32_t index,
                        std::uint32_t nameCapacity, RawValue& value) {
     return ReadGrowing(value.data, [&](Bytes& data, std::uint32_t& size) {
@@ -55,6 +59,7 @@ ErrorCode EnumRawValue(Registry& registry, KeyHandle key, std::uint32_t index,
 ErrorCode QueryRawValue(Registry& registry, KeyHandle key, const std::string& name,
                         RawValue& value) {
     value.name = name;
+    if (!IsReachable(name)) return error::InvalidData;
     return ReadGrowing(value.data, [&](Bytes& data, std::uint32_t& size) {
         return registry.RegQueryValueExA(key, name, value.type, &data, size);
     });

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "base/Bytes.h"
 #include "platform/Registry.h"
@@ -15,12 +16,16 @@ struct RawValue {
     Bytes data;
 };
 
+// False for a name with a NUL in it, as only other ways into the registry can make: asked for it,
+// the system would take what is named by the part before the NUL.
+bool IsReachable(std::string_view name);
+
 // Reads the value at `index` with a buffer that grows to the value's size. `nameCapacity` is in
 // bytes with the NUL. Gives the system's code; a value that keeps growing faster than it can be
 // read stays MoreData, as does one whose name is too long.
 ErrorCode EnumRawValue(Registry& registry, KeyHandle key, std::uint32_t index,
                        std::uint32_t nameCapacity, RawValue& value);
-// Reads the value of this name in the same way.
+// Reads the value of this name in the same way; InvalidData where it can't be reached by it.
 ErrorCode QueryRawValue(Registry& registry, KeyHandle key, const std::string& name,
                         RawValue& value);
 

@@ -78,6 +78,17 @@ TEST_P(RegistryConformance, BlanksAndDotsAreNamesAsAnyOther) {
     }
 }
 
+TEST_P(RegistryConformance, APathEndsAtItsNul) {
+    Create(std::string("Key\0above", 9));
+    EXPECT_EQ(SubKeys(scratch_), (std::vector<std::string>{"Key"}));
+    const std::string below("Key\0\\Below", 10);
+    EXPECT_EQ(Create(below), error::Success);
+    EXPECT_EQ(Open(below), error::Success);
+    EXPECT_EQ(SubKeys(Opened(below, KeyAccess::Read)), std::vector<std::string>());
+    EXPECT_EQ(registry_.RegDeleteKeyA(scratch_, below), error::Success);
+    EXPECT_EQ(Open("Key"), error::FileNotFound);
+}
+
 TEST_P(RegistryConformance, AnEmptyPathOpensTheKeyAgain) {
     Create("Below");
     KeyHandle again = 0;

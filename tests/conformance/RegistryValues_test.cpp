@@ -32,6 +32,16 @@ TEST_P(RegistryConformance, AValueIsAskedForWithoutCase) {
     EXPECT_EQ(ValueOf(scratch_, "NAME"), Text("a"));
 }
 
+TEST_P(RegistryConformance, AValuesNameEndsAtItsNul) {
+    const std::string name("Name\0x", 6);
+    EXPECT_EQ(registry_.RegSetValueExA(scratch_, name, registryType::Sz, Text("a")),
+              error::Success);
+    EXPECT_EQ(ValueOf(scratch_, "Name"), Text("a"));
+    EXPECT_EQ(ValueOf(scratch_, name), Text("a"));
+    EXPECT_EQ(registry_.RegDeleteValueA(scratch_, name), error::Success);
+    EXPECT_EQ(ValueOf(scratch_, "Name"), Bytes());
+}
+
 TEST_P(RegistryConformance, WritingAValueAgainReplacesItAndKeepsItsSpelling) {
     registry_.RegSetValueExA(scratch_, "Name", registryType::Sz, Text("old"));
     registry_.RegSetValueExA(scratch_, "NAME", registryType::Dword, {1, 2, 3, 4});

@@ -4,6 +4,8 @@
 #include <utility>
 #include <vector>
 
+#include "base/Text.h"
+
 namespace velkarix {
 namespace {
 
@@ -80,12 +82,14 @@ void MemoryKey::Set(const std::string& valueName, std::uint32_t type, Bytes data
 
 void MemoryKey::CopyFrom(const MemoryKey& source) {
     for (std::size_t index = 0; const auto value = source.values.At(index); ++index) {
-        Set(value->name, value->type, value->data);
+        Set(TrimAtNull(value->name), value->type, value->data);
     }
     // Listed beforehand: this key may itself be below the source.
     std::vector<std::shared_ptr<MemoryKey>> below;
-    for (std::size_t index = 0; auto key = source.subKeys.At(index); ++index) {
-        below.push_back(std::move(key));
+    for (std::size_t index = 0; const auto key = source.subKeys.At(index); ++index) {
+        if (auto reached = source.subKeys.Find(TrimAtNull(key->name))) {
+            below.push_back(std::move(reached));
+        }
     }
     for (const auto& key : below) {
         std::shared_ptr<MemoryKey> copy = subKeys.Find(key->name);

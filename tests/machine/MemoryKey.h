@@ -32,7 +32,7 @@ struct MemoryKey {
                           std::uint32_t neededRight);
 
     void Set(const std::string& valueName, std::uint32_t type, Bytes data);
-    // Adds all values and subkeys of `source` to this key.
+    // Adds all values and subkeys of `source` to this key, by their names up to the first NUL.
     void CopyFrom(const MemoryKey& source);
     // Marks this key and all below it: handles to them are of no use from then on.
     void MarkDeleted();

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/Text.h"
+
 namespace velkarix {
 namespace {
 
@@ -65,7 +67,7 @@ ErrorCode MemoryRegistry::RegCreateKeyA(KeyHandle parent, const std::string& sub
         return failure;
     }
     const std::uint32_t needed = family_ == Family::WindowsNt ? right::CreateSubKey : 0;
-    if (const ErrorCode failure = MemoryKey::Make(key, subKey, needed)) {
+    if (const ErrorCode failure = MemoryKey::Make(key, TrimAtNull(subKey), needed)) {
         return failure;
     }
     return Open(key, right::AsMuchAsAllowed, Describe(parent, subKey), opened);
@@ -121,7 +123,7 @@ ErrorCode MemoryRegistry::RegDeleteValueA(KeyHandle key, const std::string& name
     if (const ErrorCode failure = KeyOf(key, right::SetValue, found)) {
         return failure;
     }
-    return found->values.Remove(name) ? error::Success : error::FileNotFound;
+    return found->values.Remove(TrimAtNull(name)) ? error::Success : error::FileNotFound;
 }
 
 ErrorCode MemoryRegistry::RegEnumKeyA(KeyHandle key, std::uint32_t index, std::uint32_t capacity,
@@ -177,7 +179,7 @@ ErrorCode MemoryRegistry::RegQueryValueExA(KeyHandle key, const std::string& nam
     if (const ErrorCode failure = KeyOf(key, right::QueryValue, found)) {
         return failure;
     }
-    const auto value = found->values.Find(name);
+    const auto value = found->values.Find(TrimAtNull(name));
     if (!value) {
         return error::FileNotFound;
     }
@@ -200,10 +202,11 @@ ErrorCode MemoryRegistry::RegSetValueExA(KeyHandle key, const std::string& name,
     }
     const std::size_t longest =
         family_ == Family::Windows95 ? longestValueName95 : longestValueNameNt;
-    if (name.size() > longest) {
+    const std::string asTold = TrimAtNull(name);
+    if (asTold.size() > longest) {
         return error::InvalidParameter;
     }
-    found->Set(name, type, AsStored(type, data, family_));
+    found->Set(asTold, type, AsStored(type, data, family_));
     return error::Success;
 }
 
@@ -270,7 +273,7 @@ ErrorCode MemoryRegistry::Walk(KeyHandle parent, const std::string& subKey,
     if (const ErrorCode failure = StartOf(parent, subKey, start)) {
         return failure;
     }
-    key = MemoryKey::Find(start, subKey);
+    key = MemoryKey::Find(start, TrimAtNull(subKey));
     return key ? error::Success : error::FileNotFound;
 }
 

@@ -1,4 +1,5 @@
-// The registry's calls over the hives in memory.
+// The registry's calls over the hives in memory. They take each name up to its first NUL: what has
+// a NUL in its name is listed, and can't be reached.
 #pragma once
 
 #include <functional>

@@ -49,6 +49,14 @@ TEST_F(KeyListingTest, GivesAllNamesOfSubkeys) {
     EXPECT_EQ(names, (Strings{std::string(255, 'a'), "B"}));
 }
 
+TEST_F(KeyListingTest, IsNoSuccessWhereANameCanNotBeReached) {
+    machine.SetValue(User, key, "Name", "text");
+    machine.registry.SetRaw(User, key, std::string("Name\0x", 6), registryType::Sz, {});
+    machine.AddKey(User, key + std::string("\\\0Below", 7));
+    EXPECT_EQ(Values(), error::InvalidData);
+    EXPECT_EQ(SubKeys(), error::InvalidData);
+}
+
 TEST_F(KeyListingTest, IsNoSuccessWhenAListingBreaksOff) {
     machine.SetValue(User, key, "Name", "text");
     machine.AddKey(User, key + "\\Below");

@@ -59,6 +59,20 @@ TEST_F(RawValueTest, QueriesAValueByItsNameInOneCallOrTwo) {
     EXPECT_EQ(QueryRawValue(machine.registry, key, "Missing", value), error::FileNotFound);
 }
 
+TEST_F(RawValueTest, QueriesNothingByANameWithANul) {
+    const std::string name("Name\0x", 6);
+    machine.registry.SetRaw(Hive::CurrentUser, "Key", name, 77, {1});
+    machine.registry.SetRaw(Hive::CurrentUser, "Key", "Name", 78, {2});
+    EXPECT_EQ(Read(0), error::Success);
+    EXPECT_EQ(value.name, name);
+    KeyHandle key = 0;
+    ASSERT_EQ(machine.registry.RegOpenKeyA(Registry::HandleOf(Hive::CurrentUser), "Key", key),
+              error::Success);
+    EXPECT_EQ(QueryRawValue(machine.registry, key, name, value), error::InvalidData);
+    EXPECT_EQ(QueryRawValue(machine.registry, key, "Name", value), error::Success);
+    EXPECT_EQ(value.data, (Bytes{2}));
+}
+
 TEST(StandsAs, ComparesTypeAndBytesWithoutTheName) {
     EXPECT_TRUE(StandsAs({"a", 3, {1, 2}}, {"A", 3, {1, 2}}));
     EXPECT_FALSE(StandsAs({"a", 3, {1, 2}}, {"a", 4, {1, 2}}));

@@ -57,6 +57,16 @@ TEST_F(DeleteItemTest, DeletesNothingThatCantBeRead) {
     EXPECT_FALSE(machine.disk.Exists(KeptFile("List")));
 }
 
+TEST_F(DeleteItemTest, DeletesNothingElseForAValueThatCantBeReachedByItsName) {
+    const std::string name("Name\0x", 6);
+    machine.registry.SetRaw(User, Live, name, 77, {1});
+    machine.SetValue(User, Live, "Name", "text");
+    DeleteItemValue(application, "List", User, Live, name);
+    EXPECT_EQ(OnlyMessage(MessageIcon::Information),
+              "Error Occurred backupItem: \r\nThe data is invalid.\r\n");
+    EXPECT_EQ(machine.registry.ValueNamesOf(User, Live), (std::vector<std::string>{name, "Name"}));
+}
+
 TEST_F(DeleteItemTest, DeletesNothingThatNoFileCanHold) {
     machine.SetValue(User, item, "line\nbreak", "text");
     DeleteKey();

@@ -167,6 +167,29 @@ TEST_F(RelocateKeyTest, KeepsTheItemWhereACopyIsShortThoughItReportsSuccess) {
     }
 }
 
+// The system copies what is named by the part before the NUL, or under that name.
+TEST_F(RelocateKeyTest, KeepsTheItemWhereSomethingInItCantBeReachedByItsName) {
+    const std::vector<std::function<void()>> additions = {
+        [&] { machine.registry.SetRaw(User, live, std::string("Odd\0x", 5), 77, {4}); },
+        [&] { machine.registry.SetRaw(User, live + "\\Sub", std::string("New\0x", 5), 77, {4}); },
+        [&] { machine.AddKey(User, live + std::string("\\Sub\0x", 6)); },
+        [&] { machine.AddKey(User, live + std::string("\\\0x", 3)); },
+    };
+    for (std::size_t i = 0; i < additions.size(); ++i) {
+        for (const bool hasCopyKey : {true, false}) {
+            machine.registry.SetHasCopyKey(hasCopyKey);
+            machine.registry.RemoveKey(User, live);
+            AddItem(live);
+            additions[i]();
+            const std::string item = TreeOf(live);
+            desktop.messages.clear();
+            Disable();
+            EXPECT_EQ(TreeOf(live), item) << i;
+            EXPECT_FALSE(machine.registry.HasKey(User, held)) << i;
+        }
+    }
+}
+
 TEST_F(RelocateKeyTest, LeavesADestinationThatWasThereWhenTheCopyIsShort) {
     AddItem(live);
     machine.SetValue(User, held, "Own", "kept");

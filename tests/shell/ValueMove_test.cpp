@@ -183,6 +183,18 @@ TEST_F(ValueMoveTest, AValueThatNoFileCanHoldStaysWhereItWouldChange) {
     EXPECT_FALSE(machine.registry.HasKey(User, Held));
 }
 
+TEST_F(ValueMoveTest, AValueThatCantBeReachedByItsNameStaysAndSoDoesItsNamesake) {
+    const std::string name = Clsid + std::string("\0x", 2);
+    machine.registry.SetRaw(User, Live, name, registryType::Sz, Text("hidden"));
+    Put(registryType::Sz, Text("text"));
+    RelocateValue(application, "Hooks", User, Live, Held, name);
+    EXPECT_EQ(OnlyMessage(MessageIcon::Critical).substr(0, 41),
+              "Following Key Value Could not be deleted:");
+    EXPECT_TRUE(machine.registry.ValueAt(User, Live, name).has_value());
+    EXPECT_TRUE(LiveValue().has_value());
+    EXPECT_FALSE(machine.registry.HasKey(User, Held));
+}
+
 TEST_F(ValueMoveTest, AValueThatCantBeReadStays) {
     Put(registryType::Sz, Text("text"));
     machine.FailNext("RegQueryValueExA");

@@ -72,6 +72,15 @@ TEST_F(StartupMoves, LeaveWhatStandsAtTheDestinationOfAValueThatIsGone) {
     EXPECT_EQ(desktop.messages.size(), 1u);
 }
 
+TEST_F(StartupMoves, WriteNothingForAValueThatCanNotBeReachedByItsName) {
+    const std::string name("Item\0x", 6);
+    machine.registry.SetRaw(User, Live, name, registryType::Sz, {'a', 0});
+    EXPECT_FALSE(Move(name));
+    EXPECT_EQ(desktop.messages.size(), 1u);
+    EXPECT_TRUE(At(Live, name));
+    EXPECT_FALSE(machine.registry.HasKey(User, Held));
+}
+
 TEST_F(StartupMoves, EndWhereTheEmptyTextCanNotBeWritten) {
     machine.AddKey(User, Live);
     machine.FailAlways("RegCreateKeyA");
