@@ -8,6 +8,7 @@
 #include "shell/BackupSet.h"
 #include "shell/FileCompare.h"
 #include "shell/FilePaths.h"
+#include "shell/FolderListing.h"
 #include "shell/ListServices.h"
 #include "shell/TextFile.h"
 
@@ -42,7 +43,7 @@ void frmOptions::LoadBackupList() {
     lstvBackup_.Clear();
     FileSystem& files = application_.machine.files;
     const std::string folder = application_.settings.InstallFolder() + "\\backup";
-    for (const std::string& name : ListFolderFiles(files, folder, "*.prc")) {
+    for (const std::string& name : ListFolder(application_, folder, "*.prc")) {
         const std::optional<std::string> line = ReadFirstLine(files, BackupFile(name));
         const std::optional<BackupRecord> record = ParseBackupLine(line.value_or(""));
         if (record) AddBackupRow(record->path, record->date, name);

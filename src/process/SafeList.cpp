@@ -1,16 +1,17 @@
 #include "process/SafeList.h"
 
 #include <algorithm>
-#include <optional>
 
 #include "base/Text.h"
 #include "shell/TextFile.h"
 
 namespace velkarix {
 
-void LoadSafeList(FileSystem& files, SafeProcesses& list, const std::string& fileName) {
-    const std::optional<std::string> text = ReadTextFile(files, fileName);
-    list = SplitLines(text.value_or(""));
+bool LoadSafeList(FileSystem& files, SafeProcesses& list, const std::string& fileName) {
+    std::string text;
+    const ErrorCode result = ReadTextFile(files, fileName, text);
+    list = SplitLines(result == error::Success ? text : std::string());
+    return result == error::Success || result == error::FileNotFound;
 }
 
 bool IsInSafeList(const SafeProcesses& list, const std::string& key) {

@@ -64,7 +64,7 @@ void frmProcess::Form_Load() {
     } else {
         filterOn_ = true;
     }
-    LoadSafeList(application_.machine.files, safeProcessList_, SafeListFile());
+    ReadSafeList();
     LoadProcessList();
     if (lstvProcess_.RowCount() > 0) {
         lstvProcess_.Sort(processColumn::Name, SortOrder::Ascending);

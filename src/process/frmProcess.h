@@ -44,6 +44,7 @@ class frmProcess : public Form {
     void MakeLayout();
     void ApplySkin();
     std::string SafeListFile();
+    void ReadSafeList();
     void SetFilter(bool on);
     void ShowEntry(const std::string& path, ProcessId id);
     void AddProcessRow(const std::string& path, const std::string& name, ProcessId id,

@@ -25,10 +25,10 @@ constexpr FileColumns FactColumns = {processColumn::Size, processColumn::Created
 
 void frmProcess::LoadProcessList() {
     ClearRows(lstvProcess_, imglProcess_, Pictures);
-    for (const ProcessEntry& entry :
-         ListProcesses(application_.machine, application_.WindowsName)) {
-        ShowEntry(entry.path, entry.id);
-    }
+    const ProcessEntries entries = ListProcesses(application_.machine, application_.WindowsName);
+    // This program runs, at least.
+    application_.unread.Note("The running processes", "", !entries.empty());
+    for (const ProcessEntry& entry : entries) ShowEntry(entry.path, entry.id);
     if (lstvProcess_.RowCount() == 0) return;
     AutoSizeColumns(lstvProcess_);
     lstvProcess_ItemClick(lstvProcess_.Row(0));

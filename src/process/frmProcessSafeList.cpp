@@ -32,7 +32,13 @@ void frmProcess::cmdAdd_Click() {
             "Error Occurred cmdAdd: \r\n" + application_.registry.GetSystemErrorText(result));
         return;  // the list in memory keeps the change
     }
-    LoadSafeList(files, safeProcessList_, SafeListFile());
+    ReadSafeList();
+}
+
+void frmProcess::ReadSafeList() {
+    const std::string path = SafeListFile();
+    application_.unread.Note(path, "",
+                             LoadSafeList(application_.machine.files, safeProcessList_, path));
 }
 
 void frmProcess::cmdRemove_Click() {
@@ -50,7 +56,7 @@ void frmProcess::cmdRemove_Click() {
     FileSystem& files = application_.machine.files;
     // Only a removal cleans the file of empty lines; its failure is silent.
     SaveSafeList(files, safeProcessList_, SafeListFile(), EmptyItems::Skip);
-    LoadSafeList(files, safeProcessList_, SafeListFile());
+    ReadSafeList();
 }
 
 }  // namespace velkarix

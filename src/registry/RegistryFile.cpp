@@ -1,5 +1,6 @@
 #include "registry/RegistryFile.h"
 
+#include "registry/HiveName.h"
 #include "registry/KeyListing.h"
 #include "registry/KeyTree.h"
 #include "registry/OpenKey.h"
@@ -7,18 +8,6 @@
 
 namespace velkarix {
 namespace {
-
-constexpr const char* NameOf(Hive hive) {
-    switch (hive) {
-        case Hive::ClassesRoot:
-            return "HKEY_CLASSES_ROOT";
-        case Hive::CurrentUser:
-            return "HKEY_CURRENT_USER";
-        case Hive::LocalMachine:
-            break;
-    }
-    return "HKEY_LOCAL_MACHINE";
-}
 
 // `path` begins with the hive's name.
 ErrorCode AppendSection(const std::string& path, const std::vector<RawValue>& values,

@@ -15,11 +15,13 @@ constexpr const char* Break = LineBreak.data();
 
 }  // namespace
 
-modRegistry::modRegistry(const Machine& machine, Desktop& desktop, std::string title)
+modRegistry::modRegistry(const Machine& machine, Desktop& desktop, std::string title,
+                         UnreadPlaces* unread)
     : registry_(machine.registry),
       system_(machine.system),
       desktop_(desktop),
-      title_(std::move(title)) {}
+      title_(std::move(title)),
+      unread_(unread) {}
 
 // ---- Writing
 

@@ -12,13 +12,15 @@
 #include "forms/Desktop.h"
 #include "platform/Machine.h"
 #include "registry/RegValueEntry.h"
+#include "registry/UnreadPlaces.h"
 
 namespace velkarix {
 
 class modRegistry {
   public:
-    // `title` stands over the message boxes.
-    modRegistry(const Machine& machine, Desktop& desktop, std::string title);
+    // `title` stands over the message boxes. `unread` hears which keys could be read.
+    modRegistry(const Machine& machine, Desktop& desktop, std::string title,
+                UnreadPlaces* unread = nullptr);
 
     // ---- Writing. Each makes the key when it is missing. True unless the key can't be created,
     // also when the value itself is refused.
@@ -48,7 +50,8 @@ class modRegistry {
     bool CopyKey(Hive srcHive, const std::string& srcKey, Hive destHive,
                  const std::string& destKey);
 
-    // ---- Reading. What can't be read is empty, 0 or false.
+    // ---- Reading. What can't be read is empty, 0 or false, and is told to UnreadPlaces unless it
+    // isn't there.
 
     // Adds the names of the subkeys to `names`.
     void EnumSubKeys(Hive hive, const std::string& key, std::vector<std::string>& names);
@@ -75,6 +78,8 @@ class modRegistry {
     std::string GetSystemErrorText(ErrorCode code);
 
   private:
+    // `code` is what a look at the key came to; `look` says which.
+    void NoteRead(Hive hive, const std::string& key, const std::string& look, ErrorCode code);
     bool SetValue(Hive hive, const std::string& key, const std::string& valueName,
                   std::uint32_t type, const Bytes& data, bool quiet);
     // False when the walk must end: the tree is deeper than any real one.
@@ -87,6 +92,7 @@ class modRegistry {
     SystemFacts& system_;
     Desktop& desktop_;
     std::string title_;
+    UnreadPlaces* unread_;
 };
 
 }  // namespace velkarix

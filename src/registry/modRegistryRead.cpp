@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "registry/HiveName.h"
 #include "registry/OpenKey.h"
 #include "registry/RawValue.h"
 #include "registry/modRegistry.h"
@@ -44,19 +45,31 @@ RegValueEntry ToEntry(RawValue& value) {
     return {std::move(value.name), "", RegValueTag::None};
 }
 
+// Whether the code says that something isn't there, and so that nothing is kept from the user.
+bool SaysMissing(ErrorCode code) {
+    return code == error::FileNotFound || code == error::PathNotFound ||
+           code == error::KeyDeleted || code == error::NoMoreItems;
+}
+
 }  // namespace
+
+void modRegistry::NoteRead(Hive hive, const std::string& key, const std::string& look,
+                           ErrorCode code) {
+    const bool read = code == error::Success || SaysMissing(code);
+    if (unread_ == nullptr || (read && unread_->Empty())) return;
+    unread_->Note(std::string(NameOf(hive)) + "\\" + key, look, read);
+}
 
 void modRegistry::EnumSubKeys(Hive hive, const std::string& key, std::vector<std::string>& names) {
     constexpr std::uint32_t NameCapacity = 255;
     OpenKey open(registry_);
-    if (open.Open(Registry::HandleOf(hive), key) != error::Success) return;
-    for (std::uint32_t index = 0;; ++index) {
+    ErrorCode result = open.Open(Registry::HandleOf(hive), key);
+    for (std::uint32_t index = 0; result == error::Success; ++index) {
         std::string name;
-        if (registry_.RegEnumKeyExA(open.Handle(), index, NameCapacity, name) != error::Success) {
-            return;
-        }
-        names.push_back(TrimAtNull(name));
+        result = registry_.RegEnumKeyExA(open.Handle(), index, NameCapacity, name);
+        if (result == error::Success) names.push_back(TrimAtNull(name));
     }
+    NoteRead(hive, key, "keys", result);
 }
 
 std::vector<RegValueEntry> modRegistry::EnumValues(Hive hive, const std::string& key) {
@@ -64,32 +77,38 @@ std::vector<RegValueEntry> modRegistry::EnumValues(Hive hive, const std::string&
     std::vector<RegValueEntry> entries;
     KeyHandle handle = Registry::HandleOf(hive);
     OpenKey open(registry_);
+    ErrorCode result = error::Success;
     if (!key.empty()) {
-        if (open.Open(handle, key, KeyAccess::Read) != error::Success) return entries;
+        result = open.Open(handle, key, KeyAccess::Read);
         handle = open.Handle();
     }
     std::set<std::string> namesSoFar;
     RawValue value;
-    for (std::uint32_t index = 0;; ++index) {
-        if (EnumRawValue(registry_, handle, index, NameCapacity, value) != error::Success) break;
+    for (std::uint32_t index = 0; result == error::Success; ++index) {
+        result = EnumRawValue(registry_, handle, index, NameCapacity, value);
+        if (result != error::Success) break;
         if (namesSoFar.insert(ToLower(value.name)).second) entries.push_back(ToEntry(value));
     }
+    NoteRead(hive, key, "values", result);
     return entries;
 }
 
 std::string modRegistry::GetStringValue(Hive hive, const std::string& key,
                                         const std::string& valueName) {
     OpenKey open(registry_);
-    if (open.Open(Registry::HandleOf(hive), key) != error::Success) return {};
     std::uint32_t type = 0;
     std::uint32_t size = 0;
     Bytes data;
-    if (registry_.RegQueryValueExA(open.Handle(), valueName, type, nullptr, size) !=
-            error::Success ||
-        !MakeRoom(data, size) ||
-        registry_.RegQueryValueExA(open.Handle(), valueName, type, &data, size) != error::Success) {
-        return {};
+    ErrorCode result = open.Open(Registry::HandleOf(hive), key);
+    if (result == error::Success) {
+        result = registry_.RegQueryValueExA(open.Handle(), valueName, type, nullptr, size);
     }
+    if (result == error::Success && !MakeRoom(data, size)) result = error::MoreData;
+    if (result == error::Success) {
+        result = registry_.RegQueryValueExA(open.Handle(), valueName, type, &data, size);
+    }
+    NoteRead(hive, key, valueName, result);
+    if (result != error::Success) return {};
     data.resize(std::min<std::size_t>(size, data.size()));
     return TrimAtNull(std::string(data.begin(), data.end()));
 }
@@ -97,7 +116,9 @@ std::string modRegistry::GetStringValue(Hive hive, const std::string& key,
 std::int32_t modRegistry::GetDwordValue(Hive hive, const std::string& key,
                                         const std::string& valueName, bool& missing) {
     OpenKey open(registry_);
-    if (open.Open(Registry::HandleOf(hive), key, KeyAccess::Read) != error::Success) return 0;
+    const ErrorCode opened = open.Open(Registry::HandleOf(hive), key, KeyAccess::Read);
+    NoteRead(hive, key, valueName, opened);
+    if (opened != error::Success) return 0;
     std::uint32_t type = 0;
     std::uint32_t size = 0;
     Bytes data(4);
@@ -113,7 +134,9 @@ bool modRegistry::GetBinaryValue(Hive hive, const std::string& key, const std::s
                                  Bytes& bytes, bool expect552) {
     constexpr std::size_t SlowInfoCacheSize = 552;
     OpenKey open(registry_);
-    if (open.Open(Registry::HandleOf(hive), key, KeyAccess::Read) != error::Success) return false;
+    const ErrorCode opened = open.Open(Registry::HandleOf(hive), key, KeyAccess::Read);
+    NoteRead(hive, key, valueName, opened);
+    if (opened != error::Success) return false;
     // The first question has room for one byte only: it is asked for the size.
     std::uint32_t type = 0;
     std::uint32_t size = 1;

@@ -12,7 +12,7 @@ Application::Application(const Machine& machineToUse, Desktop& desktopToUse)
     : machine(machineToUse),
       desktop(desktopToUse),
       settings(machine),
-      registry(machine, desktop, ApplicationTitle),
+      registry(machine, desktop, ApplicationTitle, &unread),
       menus(desktop),
       forms(desktop) {}
 

@@ -7,6 +7,7 @@
 #include "forms/Desktop.h"
 #include "forms/FormSet.h"
 #include "platform/Machine.h"
+#include "registry/UnreadPlaces.h"
 #include "registry/modRegistry.h"
 #include "shell/Appearance.h"
 #include "shell/DefinitionList.h"
@@ -38,6 +39,7 @@ class Application {
     Machine machine;
     Desktop& desktop;
     Settings settings;
+    UnreadPlaces unread;
     modRegistry registry;
     frmMenu menus;
 

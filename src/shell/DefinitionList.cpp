@@ -28,18 +28,20 @@ bool DefinitionList::ReadAll(FileSystem& files, FileHandle file, std::uint64_t l
     }
 }
 
-void LoadDefinitionList(FileSystem& files, DefinitionList& target, const std::string& path) {
-    if (!FindEntry(files, path, searchFor::PlainFiles)) return;
+bool LoadDefinitionList(FileSystem& files, DefinitionList& target, const std::string& path) {
+    if (!FindEntry(files, path, searchFor::PlainFiles)) return true;
     const OpenFile file(files, path);
-    if (!file.IsOpen()) return;
+    if (!file.IsOpen()) return false;
     const std::optional<std::uint64_t> length = files.GetFileSize(file.Handle());
-    if (!length || *length == 0) return;
-    if (target.ReadAll(files, file.Handle(), *length)) {
+    if (!length || *length == 0) return length.has_value();
+    const bool whole = target.ReadAll(files, file.Handle(), *length);
+    if (whole) {
         target.folded_.EndFile();
     } else {
         target.folded_.DropUnfinishedLine();
     }
     target.index_.Extend(target.Text());
+    return whole;
 }
 
 bool ListContains(const DefinitionList& list, std::string_view item) {

@@ -18,7 +18,7 @@ class DefinitionList {
   public:
     std::string_view Text() const { return folded_.Text(); }
 
-    friend void LoadDefinitionList(FileSystem& files, DefinitionList& target,
+    friend bool LoadDefinitionList(FileSystem& files, DefinitionList& target,
                                    const std::string& path);
     friend bool ListContains(const DefinitionList& list, std::string_view item);
 
@@ -31,8 +31,9 @@ class DefinitionList {
 };
 
 // Appends the lines of a file. A missing or empty file leaves the list as it is; of a file that
-// can't be read to its end the whole lines up to there are kept.
-void LoadDefinitionList(FileSystem& files, DefinitionList& target, const std::string& path);
+// can't be read to its end the whole lines up to there are kept. False when there is a file that
+// can't be opened or read to its end.
+bool LoadDefinitionList(FileSystem& files, DefinitionList& target, const std::string& path);
 
 // Whether `item` stands anywhere in the list's text, byte for byte; inside of an entry and across
 // the blank between two entries as well. An empty item is in no list.

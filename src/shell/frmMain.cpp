@@ -3,7 +3,9 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <utility>
 
+#include "base/Text.h"
 #include "shell/ShellOpen.h"
 #include "shell/Skin.h"
 #include "shell/Updater.h"
@@ -33,6 +35,13 @@ const PageEntry Pages[] = {
     {"cmdUtilities", "Utilities", "frmUtilities", "Utilities", nullptr, Key::Digit6},
 };
 
+// The text for as many places leaves room for any other.
+constexpr std::size_t MostPlaces = 10000;
+
+std::string UnreadText(std::size_t places) {
+    return std::to_string(places) + (places == 1 ? " place" : " places") + " could not be read";
+}
+
 constexpr int UpdateDelay = 200;  // milliseconds; the first page is drawn by then
 constexpr int TypeMismatchFault = 13;
 constexpr int OverflowFault = 6;
@@ -49,6 +58,7 @@ frmMain::frmMain(Application& application)
       lblAbout_("lblAbout", "About", [this] { lblAbout_Click(); }),
       picLeft_("picLeft", "", Panel::Look::Strip),
       picPage_("picPage", ""),
+      lblUnread_("lblUnread", UnreadText(MostPlaces), [this] { lblUnread_Click(); }),
       tmrUpdate_("tmrUpdate", UpdateDelay, [this] { tmrUpdate_Timer(); }) {
     std::vector<Control*> controls = {&picTop_, &picProduct_, &lblProduct_, &picLeft_};
     std::vector<Accelerator> keys;
@@ -62,13 +72,21 @@ frmMain::frmMain(Application& application)
         strip.children.push_back(Item(*pageButtons_.back()));
         keys.push_back({entry.key, true, std::string(entry.button) + "_Click"});
     }
-    controls.insert(controls.end(), {&picPage_, &lblHelp_, &lblAbout_});
+    controls.insert(controls.end(), {&picPage_, &lblUnread_, &lblHelp_, &lblAbout_});
     SetControls(std::move(controls));
     SetAccelerators(std::move(keys));
     SetTimers({&tmrUpdate_});
     SetLayout(Column({Group(picTop_, Row({Item(picProduct_), Item(lblProduct_), Space(),
                                           Item(lblHelp_), Item(lblAbout_)})),
-                      Row({Group(picLeft_, std::move(strip)), Item(picPage_, 1)}, 1)}));
+                      Row({Group(picLeft_, std::move(strip)),
+                           Column({Item(picPage_, 1), Row({Item(lblUnread_), Space()})}, 1)},
+                          1)}));
+    ShowUnread();
+    application_.unread.SetOnChange([this] { ShowUnread(); });
+}
+
+frmMain::~frmMain() {
+    application_.unread.SetOnChange({});
 }
 
 void frmMain::Form_Load() {
@@ -123,12 +141,16 @@ void frmMain::GetWindowsName() {
 }
 
 void frmMain::LoadDefinitionLists() {
-    const std::string folder = application_.settings.InstallFolder();
-    FileSystem& files = application_.machine.files;
-    LoadDefinitionList(files, application_.SusCLSIDList, folder + "\\SusCLSID.vkl");
-    LoadDefinitionList(files, application_.SystemProcessList, folder + "\\SystemProcess.vkl");
-    LoadDefinitionList(files, application_.SusProcessList, folder + "\\SusProcess.vkl");
-    LoadDefinitionList(files, application_.SusInstallList, folder + "\\SusInstall.vkl");
+    const std::pair<DefinitionList&, const char*> lists[] = {
+        {application_.SusCLSIDList, "\\SusCLSID.vkl"},
+        {application_.SystemProcessList, "\\SystemProcess.vkl"},
+        {application_.SusProcessList, "\\SusProcess.vkl"},
+        {application_.SusInstallList, "\\SusInstall.vkl"}};
+    for (const auto& [list, name] : lists) {
+        const std::string path = application_.settings.InstallFolder() + name;
+        application_.unread.Note(path, "",
+                                 LoadDefinitionList(application_.machine.files, list, path));
+    }
 }
 
 void frmMain::PageButton_Click(std::size_t button) {
@@ -172,6 +194,24 @@ void frmMain::lblHelp_Click() {
 
 void frmMain::lblAbout_Click() {
     application_.forms.ShowModal("frmAbout", *this);
+}
+
+void frmMain::ShowUnread() {
+    const std::size_t places = application_.unread.Names().size();
+    lblUnread_.SetVisible(places > 0);
+    lblUnread_.SetText(UnreadText(places > 0 ? places : MostPlaces));
+}
+
+void frmMain::lblUnread_Click() {
+    constexpr std::size_t Shown = 20;  // more would leave the screen
+    const std::vector<std::string> names = application_.unread.Names();
+    std::string text = "What is in these places could not be read, and is not shown:";
+    text.append(LineBreak).append(LineBreak);
+    for (std::size_t i = 0; i < names.size() && i < Shown; ++i) {
+        text.append(names[i]).append(LineBreak);
+    }
+    if (names.size() > Shown) text += "and " + std::to_string(names.size() - Shown) + " more";
+    application_.Tell(MessageIcon::Information, text);
 }
 
 void frmMain::tmrUpdate_Timer() {

@@ -1,6 +1,6 @@
-// The main window: a banner with two links, a strip of six page buttons, and the page on view.
-// It makes the program ready as it loads, and hands over to the update program once, shortly
-// after the first page stands.
+// The main window: a banner with two links, a strip of six page buttons, the page on view, and
+// below it how many places couldn't be read. It makes the program ready as it loads, and hands over
+// to the update program once, shortly after the first page stands.
 #pragma once
 
 #include <memory>
@@ -17,6 +17,7 @@ namespace velkarix {
 class frmMain : public Form {
   public:
     explicit frmMain(Application& application);
+    ~frmMain() override;
 
     void Form_Load() override;
 
@@ -28,6 +29,7 @@ class frmMain : public Form {
 
     void lblHelp_Click();
     void lblAbout_Click();
+    void lblUnread_Click();
     void tmrUpdate_Timer();
 
   private:
@@ -35,6 +37,7 @@ class frmMain : public Form {
     bool ReadAppearance();
     void GetWindowsName();
     void LoadDefinitionLists();
+    void ShowUnread();
     void PageButton_Click(std::size_t button);
     bool ShowPage(const std::string& page);
     void MarkActivePage();
@@ -50,6 +53,7 @@ class frmMain : public Form {
     Panel picLeft_;
     std::vector<std::unique_ptr<Button>> pageButtons_;
     PageHost picPage_;
+    LinkLabel lblUnread_;
     Timer tmrUpdate_;
 };
 

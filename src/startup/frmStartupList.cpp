@@ -4,6 +4,7 @@
 
 #include "base/Text.h"
 #include "shell/FilePaths.h"
+#include "shell/FolderListing.h"
 #include "shell/ListServices.h"
 #include "shell/Settings.h"
 #include "shell/Suspicion.h"
@@ -98,7 +99,7 @@ void frmStartup::LoadFolder(const char* location) {
 void frmStartup::ScanShortcutFolder(const std::string& folder, const char* location, bool enabled) {
     FileSystem& files = application_.machine.files;
     if (folder.empty() || !shortcuts_) return;
-    for (const std::string& name : ListFolderFiles(files, folder, "*.lnk")) {
+    for (const std::string& name : ListFolder(application_, folder, "*.lnk")) {
         const std::optional<Shortcut> shortcut = shortcuts_->Open(folder + "\\" + name);
         // One whose target is gone, or that leads to no file, isn't listed.
         if (!shortcut || !PathExists(files, shortcut->targetPath)) continue;
