@@ -57,7 +57,9 @@ void modRegistry::NoteRead(Hive hive, const std::string& key, const std::string&
                            ErrorCode code) {
     const bool read = code == error::Success || SaysMissing(code);
     if (unread_ == nullptr || (read && unread_->Empty())) return;
-    unread_->Note(std::string(NameOf(hive)) + "\\" + key, look, read);
+    std::string place = std::string(NameOf(hive)) + "\\" + key;
+    while (place.ends_with('\\')) place.pop_back();
+    unread_->Note(place, look, read);
 }
 
 void modRegistry::EnumSubKeys(Hive hive, const std::string& key, std::vector<std::string>& names) {

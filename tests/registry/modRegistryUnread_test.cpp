@@ -95,6 +95,15 @@ TEST_F(UnreadRegistryTest, ATextThatCanNotBeReadIsUnread) {
     EXPECT_EQ(unread.Names(), ThePlace);
 }
 
+TEST_F(UnreadRegistryTest, AKeyIsOnePlaceWithABackslashAtItsEndAndWithout) {
+    std::vector<std::string> names;
+    machine.FailNext("RegOpenKeyA");
+    registry.EnumSubKeys(Hive::CurrentUser, std::string(Key) + "\\", names);
+    EXPECT_EQ(unread.Names(), ThePlace);
+    Read("EnumSubKeys");
+    EXPECT_TRUE(unread.Empty());
+}
+
 // A value of another type or size is there, and no number.
 TEST_F(UnreadRegistryTest, AValueThatIsNoNumberHidesNothing) {
     machine.SetValue(Hive::CurrentUser, Key, "Text", "more than four bytes");
