@@ -7,11 +7,14 @@
 
 namespace velkarix {
 
-bool LoadSafeList(FileSystem& files, SafeProcesses& list, const std::string& fileName) {
+bool LoadSafeList(FileSystem& files, SafeProcesses& list, const std::string& fileName,
+                  ErrorCode* failure) {
     std::string text;
     const ErrorCode result = ReadTextFile(files, fileName, text);
     list = SplitLines(result == error::Success ? text : std::string());
-    return result == error::Success || result == error::FileNotFound;
+    if (result == error::Success || result == error::FileNotFound) return true;
+    if (failure != nullptr) *failure = result;
+    return false;
 }
 
 bool IsInSafeList(const SafeProcesses& list, const std::string& key) {

@@ -12,8 +12,9 @@ namespace velkarix {
 using SafeProcesses = std::vector<std::string>;  // keys in the order of the file
 
 // Makes `list` the file's lines; empty when the file is missing or can't be read. False when there
-// is a file that can't be read.
-bool LoadSafeList(FileSystem& files, SafeProcesses& list, const std::string& fileName);
+// is a file that can't be read; `failure` is the code of why then.
+bool LoadSafeList(FileSystem& files, SafeProcesses& list, const std::string& fileName,
+                  ErrorCode* failure = nullptr);
 // False for an empty key.
 bool IsInSafeList(const SafeProcesses& list, const std::string& key);
 // Removes the first item equal to `key`. False when there is none.

@@ -45,6 +45,10 @@ class frmProcess : public Form {
     void ApplySkin();
     std::string SafeListFile();
     void ReadSafeList();
+    // Success where the list is the file's, so that writing it loses nothing of that. One that
+    // couldn't be read is read once more; then the code of why it can't.
+    ErrorCode EnsureSafeList();
+    void TellNotAdded(ErrorCode code);
     void SetFilter(bool on);
     void ShowEntry(const std::string& path, ProcessId id);
     void AddProcessRow(const std::string& path, const std::string& name, ProcessId id,
@@ -57,6 +61,7 @@ class frmProcess : public Form {
     Application& application_;
     VerdictCache& verdictCache_;
     SafeProcesses safeProcessList_;
+    ErrorCode safeListFailure_ = error::Success;  // why it couldn't be read
     ProcessBackup backup_;
     bool filterOn_ = true;
 

@@ -15,6 +15,8 @@ void frmProcess::cmdAdd_Click() {
     for (std::size_t i = lstvProcess_.RowCount(); i > 0; --i) {
         ListRow& row = lstvProcess_.Row(i - 1);
         if (!row.Checked()) continue;
+        const ErrorCode known = EnsureSafeList();
+        if (known != error::Success) return TellNotAdded(known);
         const std::string key = ProcessKey(application_.machine, FullPath(row));
         if (IsInSafeList(safeProcessList_, key)) continue;
         safeProcessList_.push_back(key);
@@ -23,22 +25,29 @@ void frmProcess::cmdAdd_Click() {
         changed = true;
     }
     if (!changed) return;
-    FileSystem& files = application_.machine.files;
-    const ErrorCode result =
-        SaveSafeList(files, safeProcessList_, SafeListFile(), EmptyItems::Write);
-    if (result != error::Success) {
-        application_.Tell(
-            MessageIcon::Information,
-            "Error Occurred cmdAdd: \r\n" + application_.registry.GetSystemErrorText(result));
-        return;  // the list in memory keeps the change
-    }
+    const ErrorCode result = SaveSafeList(application_.machine.files, safeProcessList_,
+                                          SafeListFile(), EmptyItems::Write);
+    // The list in memory keeps the change.
+    if (result != error::Success) return TellNotAdded(result);
     ReadSafeList();
 }
 
+void frmProcess::TellNotAdded(ErrorCode code) {
+    application_.Tell(MessageIcon::Information, "Error Occurred cmdAdd: \r\n" +
+                                                    application_.registry.GetSystemErrorText(code));
+}
+
 void frmProcess::ReadSafeList() {
+    safeListFailure_ = error::Success;
     const std::string path = SafeListFile();
-    application_.unread.Note(path, "",
-                             LoadSafeList(application_.machine.files, safeProcessList_, path));
+    const bool read =
+        LoadSafeList(application_.machine.files, safeProcessList_, path, &safeListFailure_);
+    application_.unread.Note(path, "", read);
+}
+
+ErrorCode frmProcess::EnsureSafeList() {
+    if (safeListFailure_ != error::Success) ReadSafeList();
+    return safeListFailure_;
 }
 
 void frmProcess::cmdRemove_Click() {
@@ -46,6 +55,7 @@ void frmProcess::cmdRemove_Click() {
     for (std::size_t i = lstvProcess_.RowCount(); i > 0; --i) {
         ListRow& row = lstvProcess_.Row(i - 1);
         if (!row.Checked()) continue;
+        if (EnsureSafeList() != error::Success) return;
         const std::string key = ProcessKey(application_.machine, FullPath(row));
         if (!RemoveFromSafeList(safeProcessList_, key)) continue;
         row.SetChecked(false);
@@ -53,9 +63,8 @@ void frmProcess::cmdRemove_Click() {
         changed = true;
     }
     if (!changed) return;
-    FileSystem& files = application_.machine.files;
     // Only a removal cleans the file of empty lines; its failure is silent.
-    SaveSafeList(files, safeProcessList_, SafeListFile(), EmptyItems::Skip);
+    SaveSafeList(application_.machine.files, safeProcessList_, SafeListFile(), EmptyItems::Skip);
     ReadSafeList();
 }
 

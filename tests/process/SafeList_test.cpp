@@ -20,13 +20,16 @@ TEST_F(SafeListTest, IsEmptyWithoutAFile) {
 }
 
 TEST_F(SafeListTest, IsEmptyForAnEmptyFileAndForOneThatCanNotBeRead) {
+    EXPECT_TRUE(LoadSafeList(machine.files, list, file));
     machine.AddFile(file);
-    LoadSafeList(machine.files, list, file);
+    EXPECT_TRUE(LoadSafeList(machine.files, list, file));
     EXPECT_TRUE(list.empty());
     machine.AddFile(file).Content("key\r\n").Unreadable();
     list = {"left"};
-    LoadSafeList(machine.files, list, file);
+    ErrorCode failure = error::Success;
+    EXPECT_FALSE(LoadSafeList(machine.files, list, file, &failure));
     EXPECT_TRUE(list.empty());
+    EXPECT_EQ(failure, error::SharingViolation);
 }
 
 TEST_F(SafeListTest, HoldsEachLineInTheOrderOfTheFile) {

@@ -9,6 +9,7 @@ class SafeListCommandsTest : public ProcessPage {
     void SafeListFile(const std::string& text) {
         program.AddInstalledFile("SafeProcess.vkl").Content(text);
     }
+    static constexpr const char* SafeListPath = "C:\\Velkarix\\SafeProcess.vkl";
     const std::string lineOfA = std::string(Md5OfA) + "\r\n";
     const std::string lineOfAbc = std::string(Md5OfAbc) + "\r\n";
 };
@@ -152,6 +153,44 @@ TEST_F(SafeListCommandsTest, SaysThatAnAdditionCouldNotBeWrittenAndKeepsItInMemo
     EXPECT_EQ(List().RowCount(), 0u);
     LeaveAndComeBack();
     EXPECT_EQ(List().RowCount(), 0u);  // the verdict that was marked safe lives on
+}
+
+TEST_F(SafeListCommandsTest, NeverWritesOverAListThatCouldNotBeRead) {
+    Run(1, "C:\\a.exe", "a");
+    SafeListFile("x\r\n");
+    program.machine.AddFile(SafeListPath).Unreadable();
+    program.Start();
+    Tick("a.exe");
+    Click("cmdAdd");
+    ASSERT_EQ(program.desktop.messages.size(), 1u);
+    EXPECT_EQ(program.desktop.messages[0].text,
+              "Error Occurred cmdAdd: \r\n" +
+                  program.application.registry.GetSystemErrorText(error::SharingViolation));
+    EXPECT_EQ(program.desktop.messages[0].icon, MessageIcon::Information);
+    EXPECT_EQ(File(), "x\r\n");
+    EXPECT_EQ(RowNames(), RowTexts{"a.exe"});
+    EXPECT_TRUE(RowNamed("a.exe")->Checked());
+
+    // Once it can be read the addition stands behind what it holds.
+    program.machine.AddFile(SafeListPath).unreadable = false;
+    Click("cmdAdd");
+    EXPECT_EQ(File(), "x\r\n" + std::string(lineOfA));
+    EXPECT_EQ(program.desktop.messages.size(), 1u);
+}
+
+TEST_F(SafeListCommandsTest, RemovesNothingFromAListThatCouldNotBeRead) {
+    Run(1, "C:\\a.exe", "a");
+    SafeListFile("x\r\n" + std::string(lineOfA));
+    ShowAll();
+    program.machine.AddFile(SafeListPath).Unreadable();
+    program.Start();
+    Tick("a.exe");
+    Click("cmdRemove");
+    EXPECT_EQ(File(), "x\r\n" + std::string(lineOfA));
+    program.machine.AddFile(SafeListPath).unreadable = false;
+    Click("cmdRemove");
+    EXPECT_EQ(File(), "x\r\n");
+    EXPECT_TRUE(program.desktop.messages.empty());
 }
 
 TEST_F(SafeListCommandsTest, SaysNothingWhenARemovalCouldNotBeWritten) {
