@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "registry/KeyTree.h"
+
 namespace velkarix {
 
 namespace {
@@ -14,6 +16,19 @@ std::vector<std::string> WithUnknown(std::vector<std::string> choices) {
 }
 
 }  // namespace
+
+// The write of a value that is refused reports success: what stands decides.
+bool StoreNumber(Application& application, const std::string& key, const std::string& valueName,
+                 std::int32_t number) {
+    constexpr Hive User = Hive::CurrentUser;
+    if (!application.registry.SetDwordValue(User, key, valueName, number)) return false;
+    RawValue standing;
+    bool missing = false;
+    return ReadRawValue(application.machine.registry, User, key, valueName, standing) ==
+               error::Success &&
+           standing.type == registryType::Dword &&
+           application.registry.GetDwordValue(User, key, valueName, missing) == number;
+}
 
 ChoiceEditor::ChoiceEditor(Application& application, const ChoiceEditorTexts& texts,
                            std::vector<std::string> choices, Store store)

@@ -37,8 +37,7 @@ ProtocolDefaultsView::ProtocolDefaultsView(Application& application)
     : application_(application),
       editor_(application, Texts, SecurityZoneNames(),
               [this](const ListRow& row, int zone) {
-                  return application_.registry.SetDwordValue(Hive::CurrentUser, ProtocolKey,
-                                                             row.Text(0), zone);
+                  return StoreNumber(application_, ProtocolKey, row.Text(0), zone);
               }),
       lblProtocol_("lblProtocol", "Protocol") {}
 

@@ -213,6 +213,18 @@ TEST_F(ProtocolDefaultsViewTest, LeavesTheRowWhereTheKeyCanNotBeMade) {
     EXPECT_EQ(Told().size(), 1u);
 }
 
+TEST_F(ProtocolDefaultsViewTest, LeavesTheRowWhereTheZoneIsNotStored) {
+    Zone("http", 3);
+    view.LoadProtocolDefaults();
+    Combo().UserSelect(0);
+    program.machine.FailNext("RegSetValueExA");
+    ApplyAndSay(MessageAnswer::Yes);
+    EXPECT_EQ(Shown(), (Rows{{"http", "Internet"}}));
+    EXPECT_EQ(Told().size(), 1u);
+    ApplyAndSay(MessageAnswer::Yes);
+    EXPECT_EQ(Shown(), (Rows{{"http", "My Computer"}}));
+}
+
 TEST_F(ProtocolDefaultsViewTest, LoadingAgainDropsWhatWasChosen) {
     Zone("http", 3);
     view.LoadProtocolDefaults();

@@ -292,6 +292,18 @@ TEST_F(SecurityZoneViewTest, LeavesTheRowWhereTheKeyCanNotBeMade) {
     EXPECT_EQ(Told().size(), 1u);
 }
 
+TEST_F(SecurityZoneViewTest, LeavesTheRowWhereTheStatusIsNotStored) {
+    Fill(0, 0);
+    view.loadSecurityZone(0);
+    Combo().UserSelect(1);
+    program.machine.FailNext("RegSetValueExA");
+    ApplyAndSay(MessageAnswer::Yes);
+    EXPECT_EQ(List().Row(0).Text(1), "Enabled");
+    EXPECT_EQ(Told().size(), 1u);
+    ApplyAndSay(MessageAnswer::Yes);
+    EXPECT_EQ(List().Row(0).Text(1), "Prompt");
+}
+
 TEST_F(SecurityZoneViewTest, MakesAZoneThatWasMissingWhenItIsGivenAStatus) {
     view.loadSecurityZone(0);
     Combo().UserSelect(2);
