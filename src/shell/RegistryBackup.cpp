@@ -30,7 +30,8 @@ ErrorCode KeepRegistryFile(Application& application, const std::string& listName
     std::string before;
     const ErrorCode read = ReadTextFile(files, path, before);
     const bool isNew = read == error::FileNotFound;
-    if (!isNew && (read != error::Success || !CanBeContinued(before))) return error::AlreadyExists;
+    if (!isNew && read != error::Success) return read;
+    if (!isNew && !CanBeContinued(before)) return error::AlreadyExists;
     const std::string added = (isNew ? std::string(RegistryFileHeader) : std::string()) + sections;
     const ErrorCode written = AppendTextFile(files, path, added);
     if (written != error::Success) return written;

@@ -10,8 +10,8 @@ namespace velkarix {
 
 // Keeps `sections`, as registry/RegistryFile gives them, in the file of this second and of the list
 // that they come from; a file that is there already gets them at its end. Success only when the
-// file was read back and holds all of it; else the code of what failed, and what is in the way
-// stays (AlreadyExists).
+// file was read back and holds all of it; else the code of what failed. What is in the way stays,
+// AlreadyExists where it is no such file.
 ErrorCode KeepRegistryFile(Application& application, const std::string& listName,
                            const std::string& sections);
 

@@ -56,7 +56,8 @@ TEST_F(RegistryBackupTest, NeverTouchesAFileThatItCouldNotContinue) {
         EXPECT_EQ(Kept("List"), text);
     }
     machine.AddFile(KeptFile("List")).Content(header).Unreadable();
-    EXPECT_EQ(Keep(section), error::AlreadyExists);
+    EXPECT_EQ(Keep(section), error::SharingViolation);
+    EXPECT_EQ(Kept("List"), header);
 }
 
 TEST_F(RegistryBackupTest, TellsThatTheDiskTookLess) {
