@@ -68,7 +68,9 @@ ErrorCode QueryRawValue(Registry& registry, KeyHandle key, const std::string& na
 bool StandsAs(const RawValue& standing, const RawValue& wanted) {
     if (standing.type != wanted.type) return false;
     if (standing.data == wanted.data) return true;
-    if (!IsText(wanted.type) || wanted.data.empty() || wanted.data.back() == 0) return false;
+    if (!IsText(wanted.type) || (!wanted.data.empty() && wanted.data.back() == 0)) return false;
+    // The 95 family can't store a simple text of no bytes; the other kinds of text it can.
+    if (wanted.data.empty() && wanted.type != registryType::Sz) return false;
     Bytes ended = wanted.data;
     ended.push_back(0);
     return standing.data == ended;

@@ -86,7 +86,8 @@ TEST(StandsAs, OverlooksTheNulThatTheSystemPutsBehindAText) {
         EXPECT_TRUE(StandsAs({"", type, {'a', 0}}, {"", type, {'a'}})) << type;
         EXPECT_FALSE(StandsAs({"", type, {'a'}}, {"", type, {'a', 0}})) << type;
         EXPECT_FALSE(StandsAs({"", type, {'a', 0, 0}}, {"", type, {'a', 0}})) << type;
-        EXPECT_FALSE(StandsAs({"", type, {0}}, {"", type, {}})) << type;
+        EXPECT_EQ(StandsAs({"", type, {0}}, {"", type, {}}), type == 1) << type;
+        EXPECT_FALSE(StandsAs({"", type, {}}, {"", type, {0}})) << type;
         EXPECT_FALSE(StandsAs({"", type, {'b', 0}}, {"", type, {'a'}})) << type;
     }
 }

@@ -167,6 +167,21 @@ TEST_F(RelocateKeyTest, KeepsTheItemWhereACopyIsShortThoughItReportsSuccess) {
     }
 }
 
+// Nothing can write a simple text of no bytes there: it arrives as one NUL, the same empty text.
+TEST_F(RelocateKeyTest, MovesATextOfNoBytesOnWindows95WithoutTheShellsCall) {
+    machine.SetSystem(NamedSystem::Windows95);
+    machine.registry.SetHasCopyKey(false);
+    machine.registry.SetRaw(User, live, "Empty", registryType::Sz, {});
+    machine.registry.SetRaw(User, live, "Expands", registryType::ExpandSz, {});
+    Disable();
+    EXPECT_FALSE(machine.registry.HasKey(User, live));
+    EXPECT_EQ(machine.registry.ValueAt(User, held, "Empty"),
+              (MemoryValue{"Empty", registryType::Sz, {0}}));
+    EXPECT_EQ(machine.registry.ValueAt(User, held, "Expands"),
+              (MemoryValue{"Expands", registryType::ExpandSz, {}}));
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
 // The system copies what is named by the part before the NUL, or under that name.
 TEST_F(RelocateKeyTest, KeepsTheItemWhereSomethingInItCantBeReachedByItsName) {
     const std::vector<std::function<void()>> additions = {
