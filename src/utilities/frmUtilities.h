@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -34,9 +33,9 @@ class frmUtilities : public Form {
     void MakeLayout();
     std::string LastUpdate();
     void Launcher_Click(std::size_t launcher);
-    // Does `work` on the key of each control on the list, then says `done`.
-    void RunActiveXCommand(const std::function<void(const std::string& key)>& work,
-                           const std::string& done);
+    std::string ActiveXListFile();
+    // Says `done`, or why the list couldn't be read to its end.
+    void TellEnd(ErrorCode result, const std::string& done);
 
     Application& application_;
 

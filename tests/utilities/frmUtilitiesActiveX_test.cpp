@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "tests/machine/RegistryFileMerge.h"
 #include "tests/utilities/ActiveXKeys.h"
 #include "tests/utilities/UtilitiesPage.h"
 
@@ -14,6 +15,7 @@ constexpr const char* Removed = "Protection removed Successfully.";
 
 class ActiveXProtectionTest : public UtilitiesPage {
   protected:
+    static constexpr const char* KeptFile = "Backup\\6_1_153_12_0_0_ActiveX.reg";
     void List(const std::string& text) { program.AddInstalledFile("MalActivex.scl").Content(text); }
     void Protect() { ClickAnew("cmdActiveXProtect"); }
     void Remove() { ClickAnew("cmdActiveXRemove"); }
@@ -99,6 +101,47 @@ TEST_F(ActiveXProtectionTest, TakesTheKeysOfListedControlsAwayAgainWithAllTheyHo
     EXPECT_EQ(Told(), Texts{Removed});
     EXPECT_EQ(program.desktop.messages[0].icon, MessageIcon::Information);
     EXPECT_EQ(program.desktop.messages[0].title, "Velkarix");
+}
+
+// Others may have set flags for a control as well.
+TEST_F(ActiveXProtectionTest, KeepsWhatItRemovesInOneRegistryFile) {
+    List("{A}\r\n{B}\r\n{C}\r\n");
+    MemoryRegistry& registry = program.machine.registry;
+    for (const char* name : {"{A}", "{B}"}) {
+        registry.SetDword(Hive::LocalMachine, KeyOf(name), "Compatibility Flags", 0x420);
+        registry.SetValue(Hive::LocalMachine, KeyOf(name), "AlternateCLSID", name);
+    }
+    const std::string before = registry.TreeText(Hive::LocalMachine, AllKeys);
+    Remove();
+    EXPECT_EQ(Told(), (Texts{NotDeleted("{C}", error::FileNotFound), Removed}));
+    EXPECT_EQ(Keys(), Texts{});
+    EXPECT_TRUE(MergeRegistryFile(registry, program.InstalledText(KeptFile)));
+    EXPECT_EQ(registry.TreeText(Hive::LocalMachine, AllKeys), before);
+}
+
+TEST_F(ActiveXProtectionTest, KeepsNoFileWhereNothingIsRemoved) {
+    List("{A}\r\n");
+    Remove();
+    EXPECT_FALSE(program.machine.disk.Exists("C:\\Velkarix\\Backup"));
+}
+
+TEST_F(ActiveXProtectionTest, RemovesNothingThatItCanNotKeep) {
+    List("{A}\r\n{B}\r\n");
+    Protect();
+    program.machine.FailNext("WriteFile", error::DiskFull);
+    Remove();
+    EXPECT_EQ(Told(), Texts{"Error Occurred backupItem: \r\n" +
+                            program.application.registry.GetSystemErrorText(error::DiskFull)});
+    EXPECT_EQ(Keys(), (Texts{"{A}", "{B}"}));
+}
+
+TEST_F(ActiveXProtectionTest, LeavesAKeyThatItCanNotReadAndGoesOn) {
+    List("{A}\r\n{B}\r\n");
+    Protect();
+    program.machine.FailNext("RegEnumValueA");
+    Remove();
+    EXPECT_EQ(Told(), (Texts{NotDeleted("{A}", error::AccessDenied), Removed}));
+    EXPECT_EQ(Keys(), Texts{"{A}"});
 }
 
 TEST_F(ActiveXProtectionTest, SaysOfEachKeyThatItIsMissing) {
@@ -235,8 +278,10 @@ TEST_F(ActiveXProtectionTest, TouchesNothingThatTheListDoesNotName) {
             EXPECT_EQ(FlagsOf(program.machine.registry, "{S}"), 0x20u) << button;
             EXPECT_EQ(FlagsOf(program.machine.registry, ""), 1u) << button;
         }
-        // The last one was made on the way to a key that was named.
-        EXPECT_EQ(Keys(), (Texts{"{S}", "\xE9"}));
+        // The last one was made on the way to a key that was named; the first has a name that no
+        // registry file brings back.
+        EXPECT_EQ(Keys(), (Texts{"\t", "{S}", "\xE9"}));
+        program.machine.registry.RemoveKey(Hive::LocalMachine, KeyOf("\t"));
     }
 }
 
