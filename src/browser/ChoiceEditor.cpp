@@ -22,12 +22,14 @@ bool StoreNumber(Application& application, const std::string& key, const std::st
                  std::int32_t number) {
     constexpr Hive User = Hive::CurrentUser;
     if (!application.registry.SetDwordValue(User, key, valueName, number)) return false;
+    Bytes wanted;
+    for (int shift = 0; shift < 32; shift += 8) {
+        wanted.push_back(static_cast<std::uint8_t>(static_cast<std::uint32_t>(number) >> shift));
+    }
     RawValue standing;
-    bool missing = false;
     return ReadRawValue(application.machine.registry, User, key, valueName, standing) ==
                error::Success &&
-           standing.type == registryType::Dword &&
-           application.registry.GetDwordValue(User, key, valueName, missing) == number;
+           StandsAs(standing, {valueName, registryType::Dword, wanted});
 }
 
 ChoiceEditor::ChoiceEditor(Application& application, const ChoiceEditorTexts& texts,
