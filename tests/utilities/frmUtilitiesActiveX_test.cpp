@@ -122,7 +122,7 @@ TEST_F(ActiveXProtectionTest, KeepsWhatItRemovesInOneRegistryFile) {
 TEST_F(ActiveXProtectionTest, KeepsNoFileWhereNothingIsRemoved) {
     List("{A}\r\n");
     Remove();
-    EXPECT_FALSE(program.machine.disk.Exists("C:\\Velkarix\\Backup"));
+    EXPECT_EQ(program.InstalledText(KeptFile), "");
 }
 
 TEST_F(ActiveXProtectionTest, RemovesNothingThatItCanNotKeep) {
