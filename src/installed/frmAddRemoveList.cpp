@@ -47,9 +47,6 @@ void frmAddRemove::ClearAppImages() {
 
 // An entry that forbids its removal, or lacks a name or a command, is no application to the user.
 void frmAddRemove::AddApplication(const std::string& subKey) {
-    // A name that begins with a NUL, as only other ways into the registry can make, leaves nothing
-    // but the path of all entries, which a deletion would take away.
-    if (subKey.empty()) return;
     modRegistry& registry = application_.registry;
     const std::string key = UninstallKey + subKey;
     const auto value = [&](const char* name) {
@@ -95,7 +92,7 @@ std::string frmAddRemove::FileInCache(const std::string& subKey) {
 }
 
 frmAddRemove::AppIcon frmAddRemove::AddAppIcon(const std::string& file, int iconIndex) {
-    if (file.empty()) return {DefaultImage, DefaultImage};
+    if (file.empty() || NamesDevice(file)) return {DefaultImage, DefaultImage};
     const auto [place, isNew] =
         icons_.try_emplace({ToLower(file), iconIndex}, AppIcon{DefaultImage, DefaultImage});
     if (isNew) {

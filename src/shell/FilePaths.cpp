@@ -15,15 +15,39 @@ namespace {
 // The names of the levels of any other would make the path of another file.
 bool IsPlain(std::string_view path) {
     constexpr std::string_view Signs[] = {"/", "\\.\\", "\\..\\", "*", "?"};
-    return path.substr(1, 2) == ":\\" &&
+    return path.substr(1, 2) == ":\\" && !NamesDevice(path) &&
            std::none_of(std::begin(Signs), std::end(Signs), [&](std::string_view sign) {
                return path.find(sign) != std::string_view::npos;
            });
 }
 
+bool IsDeviceName(std::string_view level) {
+    constexpr std::string_view Devices[] = {"CON",    "PRN",    "AUX",    "NUL",
+                                            "CLOCK$", "CONIN$", "CONOUT$"};
+    constexpr std::string_view Numbered[] = {"COM", "LPT"};  // and a digit from 1
+    level = level.substr(0, level.find_first_of(".:"));
+    level = level.substr(0, level.find_last_not_of(' ') + 1);
+    const auto is = [&](std::string_view name) { return EqualIgnoringCase(level, name); };
+    if (std::any_of(std::begin(Devices), std::end(Devices), is)) return true;
+    if (level.size() != 4 || level.back() < '1' || level.back() > '9') return false;
+    level.remove_suffix(1);
+    return std::any_of(std::begin(Numbered), std::end(Numbered), is);
+}
+
 }  // namespace
 
+bool NamesDevice(std::string_view path) {
+    if (path.starts_with("\\\\")) return false;  // shares, and names that are taken as they stand
+    while (!path.empty()) {
+        const std::size_t end = std::min(path.find_first_of("\\/"), path.size());
+        if (IsDeviceName(path.substr(0, end))) return true;
+        path.remove_prefix(std::min(end + 1, path.size()));
+    }
+    return false;
+}
+
 bool PathExists(FileSystem& files, const std::string& path) {
+    if (NamesDevice(path)) return false;
     const std::optional<bool> exists = files.PathFileExistsA(path);
     if (exists) return *exists;
     // Systems without Internet Explorer 4 lack the shell's call.

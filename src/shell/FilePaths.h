@@ -11,7 +11,12 @@
 
 namespace velkarix {
 
-// Whether there is a file or folder.
+// Whether the system takes a level of the path for a device, in whatever folder it stands and with
+// whatever extension: looking into one may wait for ever, and the older systems break down over
+// two of them in one path.
+bool NamesDevice(std::string_view path);
+
+// Whether there is a file or folder. A device is neither.
 bool PathExists(FileSystem& files, const std::string& path);
 
 // The file name: what stands behind the last backslash, or the whole path when that is its first

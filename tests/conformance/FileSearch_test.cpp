@@ -71,6 +71,17 @@ TEST_P(SearchConformance, APatternWithoutWildcardFindsTheOneEntryInItsOwnSpellin
     EXPECT_EQ(Names(In("missing")), std::vector<std::string>());
 }
 
+TEST_P(SearchConformance, BlanksAndDotsAtTheEndOfANameDoNotCount) {
+    home_->MakeFile(In("file.txt"), "abc");
+    for (const char* name : {"file.txt.", "file.txt ", "file.txt. ."}) {
+        FoundFile found;
+        const SearchHandle search = machine_.files.FindFirstFileA(In(name), found);
+        EXPECT_NE(search, 0u) << name;
+        EXPECT_EQ(found.name, "file.txt") << name;
+        machine_.files.FindClose(search);
+    }
+}
+
 TEST_P(SearchConformance, AShortNameIsFoundUnderItsLongOne) {
     home_->MakeFile(In("a rather long name.text"), "");
     const std::string shortPath = home_->ShortPathOf(In("a rather long name.text"));

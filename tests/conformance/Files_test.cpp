@@ -150,6 +150,31 @@ TEST_P(FileConformance, ADeviceIsNotOpenedAsAFile) {
     EXPECT_EQ(Open(In("NUL"), FileUse::Read), error::FileNotFound);
 }
 
+TEST_P(FileConformance, ADeviceIsThereInEveryFolderAndWithEveryExtension) {
+    for (const char* name : {"NUL", "nul.exe", "NUL .dll"}) {
+        EXPECT_EQ(files_.PathFileExistsA(In(name)), true) << name;
+        EXPECT_EQ(files_.GetFileAttributesA(In(name)), fileAttribute::Archive) << name;
+    }
+    for (const char* name : {"NULL", "a.NUL", "COM0", "COM10"}) {
+        EXPECT_EQ(files_.PathFileExistsA(In(name)), false) << name;
+    }
+    EXPECT_EQ(files_.PathFileExistsA(In("NUL\\file.txt")), false);
+}
+
+TEST_P(FileConformance, APathMayBeTakenAsItStands) {
+    home_->MakeFile(In("file.txt"), "abc");
+    const std::string path = "\\\\?\\" + In("file.txt");
+    EXPECT_EQ(files_.PathFileExistsA(path), true);
+    EXPECT_EQ(files_.PathFileExistsA(path + "x"), false);
+    EXPECT_EQ(files_.PathFileExistsA("\\\\?\\" + In("x/../file.txt")), false);
+    FoundFile found;
+    const SearchHandle search = files_.FindFirstFileA(path, found);
+    ASSERT_NE(search, 0u);
+    EXPECT_EQ(found.name, "file.txt");
+    EXPECT_TRUE(files_.FindClose(search));
+    EXPECT_EQ(Open(path, FileUse::Read), error::Success);
+}
+
 TEST_P(FileConformance, AFailedOpeningLeavesTheHandleAlone) {
     FileHandle file = 77;
     EXPECT_NE(files_.CreateFileA(In("missing.txt"), FileUse::Read, file), error::Success);

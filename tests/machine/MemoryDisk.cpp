@@ -7,6 +7,7 @@ namespace velkarix {
 namespace {
 
 constexpr std::size_t longestPath = 259;  // bytes, without the NUL
+constexpr std::string_view literal = "\\\\?\\";
 
 bool IsSeparator(char character) {
     return character == '\\' || character == '/';
@@ -59,13 +60,33 @@ std::shared_ptr<MemoryEntry> Child(const MemoryEntry& folder, const std::string&
 
 }  // namespace
 
+bool MemoryDisk::IsDevice(const std::string& path) {
+    if (path.starts_with("\\\\")) {
+        return false;
+    }
+    std::string name = path.substr(path.find_last_of("\\/:") + 1);
+    name.erase(std::min(name.find('.'), name.size()));
+    name.erase(name.find_last_not_of(' ') + 1);
+    const auto is = [&](const char* device) { return SameName(name, device); };
+    return is("CON") || is("PRN") || is("AUX") || is("NUL") ||
+           (name.size() == 4 && name[3] >= '1' && name[3] <= '9' &&
+            (SameName(name.substr(0, 3), "COM") || SameName(name.substr(0, 3), "LPT")));
+}
+
 MemoryDisk::MemoryDisk() : currentFolder_("C:\\Velkarix") {
     AddFolder(currentFolder_);
     AddFolder("C:\\WINDOWS");
 }
 
 std::optional<MemoryDisk::Parts> MemoryDisk::Split(const std::string& path) const {
-    if (path.empty() || path.size() > longestPath ||
+    // Taken as it stands, at any length.
+    const bool isLiteral = path.starts_with(literal) && path.substr(literal.size() + 1, 2) == ":\\";
+    if (isLiteral && path.find_first_of("<>|\"*?/", literal.size()) == std::string::npos) {
+        Parts parts{path.substr(literal.size(), 2), {}};
+        AppendLevels(path.substr(literal.size() + 2), parts.levels);
+        return parts;
+    }
+    if (path.empty() || path.size() > longestPath || IsDevice(path) ||
         path.find_first_of("<>|\"*?") != std::string::npos) {
         return std::nullopt;
     }
@@ -170,7 +191,8 @@ std::shared_ptr<MemoryEntry> MemoryDisk::Readable(const std::string& path, Error
     std::string name;
     const auto entry = Find(path);
     if (!entry) {
-        error = FindFolderOf(path, name) ? error::FileNotFound : error::PathNotFound;
+        const bool hasFolder = IsDevice(path) || FindFolderOf(path, name);
+        error = hasFolder ? error::FileNotFound : error::PathNotFound;
         return nullptr;
     }
     if (entry->IsFolder() || entry->unreadable) {

@@ -27,6 +27,8 @@ class MemoryDisk {
     // How many bytes can still be written before the disk is full; nothing is no limit.
     void SetFreeBytes(std::optional<std::uint64_t> bytes) { freeBytes_ = bytes; }
 
+    // Whether the system takes the last level for a device, in whatever folder.
+    static bool IsDevice(const std::string& path);
     bool Exists(const std::string& path) const { return Find(path) != nullptr; }
     // A file's bytes as text; nothing when there is no such file.
     std::optional<std::string> ContentOf(const std::string& path) const;

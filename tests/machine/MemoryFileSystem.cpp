@@ -13,6 +13,15 @@ FoundFile Describe(const MemoryEntry& entry, const std::string& name) {
     return {entry.attributes, entry.creationTime, entry.content.size(), name};
 }
 
+// The system overlooks blanks and dots at the end of a name; of a pattern they are a part.
+std::string WithoutTail(std::string name) {
+    const std::size_t end = name.find_last_not_of(". ") + 1;
+    if (end != 0 && name.find_first_of("*?") == std::string::npos) {
+        name.erase(end);
+    }
+    return name;
+}
+
 // The folder's entries that fit, as a directory search lists them.
 std::vector<FoundFile> Matches(const MemoryEntry& folder, bool isRoot, const std::string& pattern) {
     std::vector<FoundFile> found;
@@ -43,7 +52,7 @@ SearchHandle MemoryFileSystem::FindFirstFileA(const std::string& pattern, FoundF
         return 0;
     }
     const bool isRoot = folder->name.ends_with(':');
-    Search search{Matches(*folder, isRoot, pattern.substr(lastLevel)), 1};
+    Search search{Matches(*folder, isRoot, WithoutTail(pattern.substr(lastLevel))), 1};
     if (search.found.empty()) {
         return 0;
     }
@@ -72,12 +81,18 @@ std::optional<bool> MemoryFileSystem::PathFileExistsA(const std::string& path) {
     if (journal_.Enter("PathFileExistsA", path)) {
         return false;
     }
-    return hasPathFileExists_ ? std::optional(disk_.Exists(path)) : std::nullopt;
+    if (!hasPathFileExists_) {
+        return std::nullopt;
+    }
+    return disk_.Exists(path) || MemoryDisk::IsDevice(path);
 }
 
 std::uint32_t MemoryFileSystem::GetFileAttributesA(const std::string& path) {
     const bool fails = journal_.Enter("GetFileAttributesA", path) != error::Success;
     const auto entry = disk_.Find(path);
+    if (!fails && !entry && MemoryDisk::IsDevice(path)) {
+        return fileAttribute::Archive;
+    }
     return fails || !entry ? fileAttribute::Invalid : entry->attributes;
 }
 

@@ -44,6 +44,20 @@ TEST_F(FilePathsTest, ExistenceIsToldByTheAttributesWhereTheShellLibraryHasNoCal
     EXPECT_FALSE(PathExists(machine.files, "C:\\missing"));
 }
 
+TEST_F(FilePathsTest, ADeviceIsNoFileAndNotAskedFor) {
+    for (const char* path : {"NUL", "con", "C:\\Folder\\Aux.exe", "C:\\com1.dll", "LPT9", "prn .x",
+                             "C:\\con\\con", "C:/nul/file.txt", "CLOCK$", "C:\\CONOUT$"}) {
+        EXPECT_TRUE(NamesDevice(path)) << path;
+        EXPECT_FALSE(PathExists(machine.files, path)) << path;
+        EXPECT_EQ(GetLongPath(machine.files, path), path);
+    }
+    EXPECT_TRUE(machine.Journal().Calls().empty());
+    for (const char* path : {"", "C:\\", "C:\\a.con", "COM0", "COM10", "COMA", "\\\\?\\C:\\NUL",
+                             "\\\\server\\con\\a.exe", "console.exe", "C:\\null"}) {
+        EXPECT_FALSE(NamesDevice(path)) << path;
+    }
+}
+
 // ---- ExpandEnvPath
 
 TEST_F(FilePathsTest, APathWithoutAPercentSignIsNotHandedToTheSystem) {
