@@ -1,5 +1,6 @@
 #include "browser/ItemList.h"
 
+#include "base/Text.h"
 #include "shell/FilePaths.h"
 #include "shell/ListServices.h"
 
@@ -64,9 +65,9 @@ std::vector<std::string> ItemList::NamesIn(const ItemPlace& place, const std::st
     std::vector<std::string> names;
     if (shape_.places.kind == ItemKind::Key) {
         application_.registry.EnumSubKeys(place.hive, holder, names);
-        // A name that begins with a NUL, as only other ways into the registry can make, leaves
-        // nothing but the path of all items, which a command would move or delete.
-        std::erase(names, std::string());
+        // A name that begins with a NUL, as only other ways into the registry can make, shows
+        // nothing.
+        std::erase_if(names, [](const std::string& name) { return TrimAtNull(name).empty(); });
         return names;
     }
     for (const RegValueEntry& value : application_.registry.EnumValues(place.hive, holder)) {

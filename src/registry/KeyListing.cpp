@@ -1,7 +1,10 @@
 #include "registry/KeyListing.h"
 
 #include <cstdint>
+#include <set>
 #include <utility>
+
+#include "base/Text.h"
 
 namespace velkarix {
 namespace {
@@ -21,22 +24,38 @@ const std::string& NameOf(const std::string& key) {
 template <typename Item, typename Read>
 ErrorCode ListAll(std::vector<Item>& items, Read read) {
     items.clear();
+    std::set<std::string> names;
     for (std::uint32_t index = 0;; ++index) {
         Item item;
         const ErrorCode result = read(index, item);
         if (result == error::NoMoreItems) return error::Success;
         if (result != error::Success) return result;
-        if (!IsReachable(NameOf(item))) return error::InvalidData;
+        const std::string& name = NameOf(item);
+        if (!IsReachable(name) || !names.insert(ToLower(name)).second) return error::InvalidData;
         items.push_back(std::move(item));
     }
+}
+
+// Characters that the code page lacks are listed as others, by which another value, or none, is
+// asked for.
+ErrorCode AskForEach(Registry& registry, KeyHandle key, const std::vector<RawValue>& values) {
+    for (const RawValue& value : values) {
+        RawValue found;
+        const ErrorCode result = QueryRawValue(registry, key, value.name, found);
+        if (result == error::FileNotFound) return error::InvalidData;
+        if (result != error::Success) return result;
+        if (!StandsAs(found, value)) return error::InvalidData;
+    }
+    return error::Success;
 }
 
 }  // namespace
 
 ErrorCode ListValues(Registry& registry, KeyHandle key, std::vector<RawValue>& values) {
-    return ListAll(values, [&](std::uint32_t index, RawValue& value) {
+    const ErrorCode result = ListAll(values, [&](std::uint32_t index, RawValue& value) {
         return EnumRawValue(registry, key, index, ValueNameCapacity, value);
     });
+    return result == error::Success ? AskForEach(registry, key, values) : result;
 }
 
 ErrorCode ListSubKeys(Registry& registry, KeyHandle key, std::vector<std::string>& names) {

@@ -1,10 +1,12 @@
 // A key that is open for as long as this object lives, so that no way out of a routine leaves a
-// handle behind.
+// handle behind. A path with a NUL in it leads nowhere: the system would end it there, and open
+// another key.
 #pragma once
 
 #include <string>
 
 #include "platform/Registry.h"
+#include "registry/RawValue.h"
 
 namespace velkarix {
 
@@ -17,12 +19,15 @@ class OpenKey {
 
     // Each gives the system's code; the key is open on Success.
     ErrorCode Create(KeyHandle parent, const std::string& subKey) {
+        if (!IsReachable(subKey)) return error::InvalidData;
         return registry_.RegCreateKeyA(parent, subKey, handle_);
     }
     ErrorCode Open(KeyHandle parent, const std::string& subKey) {
+        if (!IsReachable(subKey)) return error::InvalidData;
         return registry_.RegOpenKeyA(parent, subKey, handle_);
     }
     ErrorCode Open(KeyHandle parent, const std::string& subKey, KeyAccess access) {
+        if (!IsReachable(subKey)) return error::InvalidData;
         return registry_.RegOpenKeyExA(parent, subKey, access, handle_);
     }
     // Closes at once. A key that isn't open is closed already.

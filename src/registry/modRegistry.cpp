@@ -55,7 +55,7 @@ bool modRegistry::SetValue(Hive hive, const std::string& key, const std::string&
         if (!quiet) ShowFailure("Key Could not be created", key, created);
         return false;
     }
-    registry_.RegSetValueExA(open.Handle(), valueName, type, data);
+    if (IsReachable(valueName)) registry_.RegSetValueExA(open.Handle(), valueName, type, data);
     return true;
 }
 
@@ -69,7 +69,9 @@ bool modRegistry::CreateKey(Hive hive, const std::string& key) {
 // ---- Deleting
 
 bool modRegistry::DeleteKey(Hive hive, const std::string& key, bool quiet) {
-    const ErrorCode deleted = registry_.RegDeleteKeyA(Registry::HandleOf(hive), key);
+    const ErrorCode deleted = IsReachable(key)
+                                  ? registry_.RegDeleteKeyA(Registry::HandleOf(hive), key)
+                                  : error::InvalidData;
     if (deleted != error::Success && !quiet) ShowKeyNotDeleted(key, deleted);
     return deleted == error::Success;
 }
@@ -82,7 +84,9 @@ bool modRegistry::DeleteValue(Hive hive, const std::string& key, const std::stri
         if (!quiet) ShowValueFailure("Key Value Could not be opened", key, valueName, opened);
         return false;
     }
-    const ErrorCode deleted = registry_.RegDeleteValueA(open.Handle(), valueName);
+    const ErrorCode deleted = IsReachable(valueName)
+                                  ? registry_.RegDeleteValueA(open.Handle(), valueName)
+                                  : error::InvalidData;
     open.Close();
     if (deleted != error::Success && !quiet) ShowValueNotDeleted(key, valueName, deleted);
     return deleted == error::Success;
@@ -156,9 +160,10 @@ void modRegistry::ShowValueFailure(const char* what, const std::string& key,
 }
 
 void modRegistry::ShowFailure(const char* what, const std::string& detail, ErrorCode code) {
-    desktop_.ShowMessage({std::string("Following ") + what + ": " + Break + detail + Break +
-                              GetSystemErrorText(code),
-                          title_, MessageIcon::Critical, MessageButtons::Ok});
+    std::string text =
+        std::string("Following ") + what + ": " + Break + detail + Break + GetSystemErrorText(code);
+    std::replace(text.begin(), text.end(), '\0', ' ');  // where the message would end
+    desktop_.ShowMessage({text, title_, MessageIcon::Critical, MessageButtons::Ok});
 }
 
 }  // namespace velkarix

@@ -53,7 +53,9 @@ class modRegistry {
     // ---- Reading. What can't be read is empty, 0 or false, and is told to UnreadPlaces unless it
     // isn't there.
 
-    // Adds the names of the subkeys to `names`.
+    // Adds the names of the subkeys to `names`. One with a NUL in it leads to no key. Of equal
+    // ones the first stays: the characters of the others that the code page lacks make them alike,
+    // and lead to it as well.
     void EnumSubKeys(Hive hive, const std::string& key, std::vector<std::string>& names);
     // The values in the system's order. An empty key is the hive itself. Of names that differ
     // only in case the first stays.

@@ -59,17 +59,20 @@ void modRegistry::NoteRead(Hive hive, const std::string& key, const std::string&
     if (unread_ == nullptr || (read && unread_->Empty())) return;
     std::string place = std::string(NameOf(hive)) + "\\" + key;
     while (place.ends_with('\\')) place.pop_back();
+    std::replace(place.begin(), place.end(), '\0', ' ');  // where a message would end
     unread_->Note(place, look, read);
 }
 
 void modRegistry::EnumSubKeys(Hive hive, const std::string& key, std::vector<std::string>& names) {
     constexpr std::uint32_t NameCapacity = 255;
     OpenKey open(registry_);
+    std::set<std::string> namesSoFar;
     ErrorCode result = open.Open(Registry::HandleOf(hive), key);
     for (std::uint32_t index = 0; result == error::Success; ++index) {
         std::string name;
         result = registry_.RegEnumKeyExA(open.Handle(), index, NameCapacity, name);
-        if (result == error::Success) names.push_back(TrimAtNull(name));
+        if (result != error::Success) break;
+        if (namesSoFar.insert(ToLower(name)).second) names.push_back(name);
     }
     NoteRead(hive, key, "keys", result);
 }

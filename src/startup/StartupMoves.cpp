@@ -1,5 +1,7 @@
 #include "startup/StartupMoves.h"
 
+#include <algorithm>
+
 #include "registry/KeyTree.h"
 #include "shell/ValueMove.h"
 
@@ -18,6 +20,14 @@ bool IsMissing(Application& application, Hive hive, const std::string& key,
     return look() == error::FileNotFound && look() == error::FileNotFound;
 }
 
+// Listed by that name and not found by it: the code page lacks some of the characters of its own.
+bool IsListed(Application& application, Hive hive, const std::string& key,
+              const std::string& valueName) {
+    const std::vector<RegValueEntry> values = application.registry.EnumValues(hive, key);
+    return std::any_of(values.begin(), values.end(),
+                       [&](const RegValueEntry& value) { return value.name == valueName; });
+}
+
 }  // namespace
 
 bool RelocateRunValue(Application& application, Hive hive, const std::string& sourceKey,
@@ -26,6 +36,10 @@ bool RelocateRunValue(Application& application, Hive hive, const std::string& so
         return MoveValue(
             application,
             {StartupBackupName, "endisRun", hive, sourceKey, destinationKey, valueName}, textForm);
+    }
+    if (IsListed(application, hive, sourceKey, valueName)) {
+        application.registry.ShowValueNotDeleted(sourceKey, valueName, error::FileNotFound);
+        return false;
     }
     // A value that is gone counts as an empty one, and the user hears that it can't be deleted. It
     // doesn't replace what lies at the destination: that may be all that is left of the item.

@@ -28,6 +28,11 @@ class Home {
     // Puts a text (REG_SZ) without its NUL into the scratch key, as only other ways into the
     // registry can.
     virtual void MakeUnendedText(const std::string& name, const std::string& text) = 0;
+    // Makes a key below the scratch key, or a value in it, by a name of counted characters, as only
+    // other ways into the registry can.
+    virtual void MakeNamedKey(const std::u16string& name) = 0;
+    virtual void MakeNamedValue(const std::u16string& name, std::uint32_t type,
+                                const Bytes& data) = 0;
 
     // Merges a registry file as a double click on it does; false when that can't be started.
     virtual bool MergeRegistryFile(const std::string& path) = 0;

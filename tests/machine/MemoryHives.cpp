@@ -1,16 +1,39 @@
 #include "tests/machine/MemoryHives.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
 namespace velkarix {
+namespace {
+
+// The name to keep the thing under, and how it is listed; that is empty where it is the same.
+std::pair<std::string, std::string> AnsiNames(const std::u16string& name) {
+    std::pair<std::string, std::string> names;
+    bool isForeign = false;
+    for (const char16_t character : name) {
+        if (character <= 0xFF) {
+            names.first += static_cast<char>(character);
+            names.second += static_cast<char>(character);
+            continue;
+        }
+        // Behind all names of the code page's characters.
+        names.first += "\xFF" + std::to_string(static_cast<unsigned>(character));
+        names.second += '?';
+        isForeign = true;
+    }
+    if (!isForeign) names.second.clear();
+    return names;
+}
+
+}  // namespace
 
 MemoryHives::MemoryHives()
     : localMachine_(std::make_shared<MemoryKey>("HKLM")),
       currentUser_(std::make_shared<MemoryKey>("HKCU")),
       // The classes are a part of the machine's hive under a second name.
       classesRoot_(localMachine_) {
-    MemoryKey::Make(classesRoot_, "SOFTWARE\\Classes", 0);
+    MemoryKey::Make(classesRoot_, "SOFTWARE\\Classes", 0, SIZE_MAX);
 }
 
 void MemoryHives::AddKey(Hive hive, const std::string& key) {
@@ -36,6 +59,22 @@ void MemoryHives::SetDword(Hive hive, const std::string& key, const std::string&
 void MemoryHives::SetRaw(Hive hive, const std::string& key, const std::string& name,
                          std::uint32_t type, Bytes data) {
     MakeKey(hive, key)->Set(name, type, std::move(data));
+}
+
+std::string MemoryHives::AddNamedKey(Hive hive, const std::string& key,
+                                     const std::u16string& name) {
+    const auto [stored, listed] = AnsiNames(name);
+    std::string path = key + "\\" + stored;
+    MakeKey(hive, path)->listedAs = listed;
+    return path;
+}
+
+void MemoryHives::SetNamedValue(Hive hive, const std::string& key, const std::u16string& name,
+                                std::uint32_t type, Bytes data) {
+    const auto [stored, listed] = AnsiNames(name);
+    const auto found = MakeKey(hive, key);
+    found->Set(stored, type, std::move(data));
+    found->values.Find(stored)->listedAs = listed;
 }
 
 void MemoryHives::RemoveKey(Hive hive, const std::string& key) {
@@ -107,7 +146,7 @@ std::shared_ptr<MemoryKey> MemoryHives::KeyAt(Hive hive, const std::string& path
 
 std::shared_ptr<MemoryKey> MemoryHives::MakeKey(Hive hive, const std::string& path) {
     std::shared_ptr<MemoryKey> key = RootOf(Registry::HandleOf(hive));
-    MemoryKey::Make(key, path, 0);
+    MemoryKey::Make(key, path, 0, SIZE_MAX);  // other ways into the registry have no limit
     return key;
 }
 

@@ -26,6 +26,11 @@ class MemoryHives {
     // Any type, any bytes, as they are.
     void SetRaw(Hive hive, const std::string& key, const std::string& name, std::uint32_t type,
                 Bytes data);
+    // A key, or a value, by a name of any characters. Those that the code page lacks are listed as
+    // question marks, by which nothing is found. Gives the path of the key for the calls below.
+    std::string AddNamedKey(Hive hive, const std::string& key, const std::u16string& name);
+    void SetNamedValue(Hive hive, const std::string& key, const std::u16string& name,
+                       std::uint32_t type, Bytes data);
     // Removes a key with all that is below it, without a word.
     void RemoveKey(Hive hive, const std::string& key);
     void RemoveValue(Hive hive, const std::string& key, const std::string& name);

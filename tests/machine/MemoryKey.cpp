@@ -9,8 +9,6 @@
 namespace velkarix {
 namespace {
 
-constexpr std::size_t longestKeyName = 255;  // bytes
-
 std::vector<std::string> Levels(const std::string& path) {
     std::vector<std::string> levels;
     std::size_t start = 0;
@@ -53,9 +51,9 @@ std::shared_ptr<MemoryKey> MemoryKey::Find(std::shared_ptr<MemoryKey> from,
 }
 
 ErrorCode MemoryKey::Make(std::shared_ptr<MemoryKey>& from, const std::string& path,
-                          std::uint32_t neededRight) {
+                          std::uint32_t neededRight, std::size_t longestName) {
     for (const std::string& level : Levels(path)) {
-        if (level.size() > longestKeyName) {
+        if (level.size() > longestName) {
             return error::InvalidParameter;
         }
         std::shared_ptr<MemoryKey> next = from->subKeys.Find(level);

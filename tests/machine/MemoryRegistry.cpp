@@ -18,6 +18,7 @@ constexpr std::uint32_t AsMuchAsAllowed = 0x2000000;
 }  // namespace right
 
 constexpr ErrorCode badPathName = 161;
+constexpr std::size_t longestKeyName = 255;
 constexpr std::size_t longestValueName95 = 255;
 constexpr std::size_t longestValueNameNt = 16383;
 
@@ -67,7 +68,8 @@ ErrorCode MemoryRegistry::RegCreateKeyA(KeyHandle parent, const std::string& sub
         return failure;
     }
     const std::uint32_t needed = family_ == Family::WindowsNt ? right::CreateSubKey : 0;
-    if (const ErrorCode failure = MemoryKey::Make(key, TrimAtNull(subKey), needed)) {
+    if (const ErrorCode failure =
+            MemoryKey::Make(key, TrimAtNull(subKey), needed, longestKeyName)) {
         return failure;
     }
     return Open(key, right::AsMuchAsAllowed, Describe(parent, subKey), opened);
@@ -159,14 +161,14 @@ ErrorCode MemoryRegistry::RegEnumValueA(KeyHandle key, std::uint32_t index,
     if (!value) {
         return error::NoMoreItems;
     }
-    if (value->name.size() >= nameCapacity) {
+    if (ListedName(*value).size() >= nameCapacity) {
         return error::MoreData;
     }
     type = value->type;
     if (const ErrorCode failure = Deliver(*value, data, size)) {
         return failure;
     }
-    name = value->name;
+    name = ListedName(*value);
     return error::Success;
 }
 
@@ -309,10 +311,10 @@ ErrorCode MemoryRegistry::EnumKey(KeyHandle key, std::uint32_t index, std::uint3
     if (!subKey) {
         return error::NoMoreItems;
     }
-    if (subKey->name.size() >= capacity) {
+    if (ListedName(*subKey).size() >= capacity) {
         return error::MoreData;
     }
-    name = subKey->name;
+    name = ListedName(*subKey);
     return error::Success;
 }
 

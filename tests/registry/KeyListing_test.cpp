@@ -57,6 +57,29 @@ TEST_F(KeyListingTest, IsNoSuccessWhereANameCanNotBeReached) {
     EXPECT_EQ(SubKeys(), error::InvalidData);
 }
 
+// Characters that the code page lacks are listed as question marks, by which another is asked for.
+TEST_F(KeyListingTest, IsNoSuccessWhereANameLeadsToAnother) {
+    const std::u16string foreign = u"\u0430\u0431";
+    machine.registry.SetNamedValue(User, key, foreign, registryType::Binary, {1});
+    EXPECT_EQ(Values(), error::InvalidData);
+    for (const Bytes& data : {Bytes{1}, Bytes{2}}) {
+        machine.registry.SetRaw(User, key, "??", registryType::Binary, data);
+        EXPECT_EQ(Values(), error::InvalidData);
+    }
+    machine.AddKey(User, key + "\\??");
+    machine.registry.AddNamedKey(User, key, foreign);
+    EXPECT_EQ(SubKeys(), error::InvalidData);
+}
+
+TEST_F(KeyListingTest, IsNoSuccessWhereAValueIsAskedForInVain) {
+    machine.registry.SetNamedValue(User, key, u"?", registryType::Binary, {1});
+    EXPECT_EQ(Values(), error::Success);
+    machine.FailNext("RegQueryValueExA", error::FileNotFound);
+    EXPECT_EQ(Values(), error::InvalidData);
+    machine.FailNext("RegQueryValueExA", error::AccessDenied);
+    EXPECT_EQ(Values(), error::AccessDenied);
+}
+
 TEST_F(KeyListingTest, IsNoSuccessWhenAListingBreaksOff) {
     machine.SetValue(User, key, "Name", "text");
     machine.AddKey(User, key + "\\Below");

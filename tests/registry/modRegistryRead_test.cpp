@@ -55,6 +55,30 @@ TEST_F(modRegistryReadTest, EnumSubKeysTakesNamesOf254BytesAndEndsAtALongerOne) 
     EXPECT_EQ(names, (Strings{std::string(254, 'a')}));
 }
 
+TEST_F(modRegistryReadTest, EnumSubKeysGivesANameWithANulThatLeadsToNoKey) {
+    const std::string hidden("A\0x", 3);
+    machine.SetValue(User, key + "\\A", "Name", "another's");
+    machine.SetValue(User, key + "\\" + hidden, "Name", "hidden");
+    Strings names;
+    registry.EnumSubKeys(User, key, names);
+    EXPECT_EQ(names, (Strings{"A", hidden}));
+    bool missing = false;
+    Bytes bytes;
+    EXPECT_EQ(registry.GetStringValue(User, key + "\\" + hidden, "Name"), "");
+    EXPECT_EQ(registry.GetDwordValue(User, key + "\\" + hidden, "Name", missing), 0);
+    EXPECT_FALSE(registry.GetBinaryValue(User, key + "\\" + hidden, "Name", bytes, false));
+    EXPECT_TRUE(registry.EnumValues(User, key + "\\" + hidden).empty());
+}
+
+// The second is of characters that the code page lacks, and its name leads to the first.
+TEST_F(modRegistryReadTest, EnumSubKeysGivesANameOnce) {
+    machine.AddKey(User, key + "\\??");
+    machine.registry.AddNamedKey(User, key, u"\u0430\u0431");
+    Strings names;
+    registry.EnumSubKeys(User, key, names);
+    EXPECT_EQ(names, Strings{"??"});
+}
+
 TEST_F(modRegistryReadTest, EnumSubKeysEndsAtTheFirstFailure) {
     machine.AddKey(User, key + "\\A");
     machine.FailNext("RegEnumKeyExA");

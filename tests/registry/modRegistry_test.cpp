@@ -134,6 +134,29 @@ TEST_F(modRegistryTest, DeleteKeyFailsInSilenceWhenQuiet) {
     EXPECT_TRUE(desktop.messages.empty());
 }
 
+TEST_F(modRegistryTest, TellsOfANameWithANulToTheEnd) {
+    EXPECT_FALSE(registry.DeleteKey(User, std::string("Key\0x", 5), false));
+    ASSERT_EQ(desktop.messages.size(), 1u);
+    EXPECT_EQ(desktop.messages[0].text, "Following Key Could not be deleted: \r\nKey x\r\n\r\n" +
+                                            registry.GetSystemErrorText(error::InvalidData));
+}
+
+// The system would end the name at the NUL, and take another.
+TEST_F(modRegistryTest, ChangesNothingByANameWithANul) {
+    machine.SetValue(User, "Software\\Other", "Value", "another's");
+    const std::string key("Software\\Other\0x", 16);
+    const std::string value("Value\0x", 7);
+    const std::string before = machine.registry.TreeText(User, "");
+    EXPECT_FALSE(registry.DeleteKey(User, key, true));
+    EXPECT_FALSE(registry.DeleteValue(User, "Software\\Other", value, true));
+    EXPECT_FALSE(registry.DeleteValue(User, key, "Value", true));
+    EXPECT_FALSE(registry.DeleteSubKeys(User, key));
+    EXPECT_FALSE(registry.SetDwordValue(User, key, "Value", 1));
+    registry.SetDwordValue(User, "Software\\Other", value, 1);
+    EXPECT_FALSE(registry.CreateKey(User, key));
+    EXPECT_EQ(machine.registry.TreeText(User, ""), before);
+}
+
 TEST_F(modRegistryTest, DeleteValueOpensTheKeyAndDeletesTheValue) {
     machine.SetValue(User, key, "Name", "text");
     machine.SetValue(User, key, "Other", "text");

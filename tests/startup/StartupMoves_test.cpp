@@ -81,6 +81,15 @@ TEST_F(StartupMoves, WriteNothingForAValueThatCanNotBeReachedByItsName) {
     EXPECT_FALSE(machine.registry.HasKey(User, Held));
 }
 
+TEST_F(StartupMoves, WriteNothingForAValueThatIsListedByANameThatLeadsNowhere) {
+    machine.registry.SetNamedValue(User, Live, u"\u0430\u0431", registryType::Sz, {'a', 0});
+    EXPECT_FALSE(Move("??"));
+    EXPECT_EQ(OnlyMessage(MessageIcon::Critical).find("Following Key Value Could not be deleted: "),
+              0u);
+    EXPECT_EQ(machine.registry.ValueNamesOf(User, Live).size(), 1u);
+    EXPECT_FALSE(machine.registry.HasKey(User, Held));
+}
+
 TEST_F(StartupMoves, EndWhereTheEmptyTextCanNotBeWritten) {
     machine.AddKey(User, Live);
     machine.FailAlways("RegCreateKeyA");

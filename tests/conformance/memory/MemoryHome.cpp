@@ -30,6 +30,14 @@ class MemoryHome : public Home {
                                 Bytes(text.begin(), text.end()));
     }
 
+    void MakeNamedKey(const std::u16string& name) override {
+        memory_.registry.AddNamedKey(scratchHive, ScratchKey(), name);
+    }
+    void MakeNamedValue(const std::u16string& name, std::uint32_t type,
+                        const Bytes& data) override {
+        memory_.registry.SetNamedValue(scratchHive, ScratchKey(), name, type, data);
+    }
+
     bool MergeRegistryFile(const std::string& path) override {
         return velkarix::MergeRegistryFile(memory_.registry, ContentOf(path));
     }

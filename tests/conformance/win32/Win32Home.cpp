@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/win32/Win32Machine.h"
+#include "tests/NtRegistry.h"
 #include "tests/conformance/Home.h"
 #include "tests/conformance/win32/SaveShortcut.h"
 
@@ -121,6 +122,7 @@ class Win32Home : public Home {
         }
         SetCurrentDirectoryA(SystemFolder().c_str());  // a current folder can't be removed
         DeleteFolderTree(folder_);
+        named_.Clear();  // by their names they couldn't be deleted
         DeleteKeyTree(HKEY_CURRENT_USER, scratchKey);
     }
 
@@ -135,6 +137,20 @@ class Win32Home : public Home {
         RegOpenKeyExA(HKEY_CURRENT_USER, scratchKey, 0, KEY_ALL_ACCESS, &key);
         ::RegSetValueExA(key, name.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(padded.data()),
                          static_cast<DWORD>(text.size()));
+        ::RegCloseKey(key);
+    }
+
+    void MakeNamedKey(const std::u16string& name) override {
+        HKEY key = nullptr;
+        RegOpenKeyExA(HKEY_CURRENT_USER, scratchKey, 0, KEY_ALL_ACCESS, &key);
+        EXPECT_NE(named_.MakeKey(key, name), nullptr);
+        ::RegCloseKey(key);
+    }
+    void MakeNamedValue(const std::u16string& name, std::uint32_t type,
+                        const Bytes& data) override {
+        HKEY key = nullptr;
+        RegOpenKeyExA(HKEY_CURRENT_USER, scratchKey, 0, KEY_ALL_ACCESS, &key);
+        EXPECT_TRUE(NtRegistry::SetValue(key, name, type, data));
         ::RegCloseKey(key);
     }
 
@@ -247,6 +263,7 @@ class Win32Home : public Home {
     }
 
     Win32Machine win32_;
+    NtRegistry named_;
     std::string folder_;
     std::string formerShortDate_;  // empty as long as it is the user's own
     std::vector<HANDLE> children_;
