@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 #include "tests/conformance/Home.h"
+#include "tests/field/VersionCases.h"
 #include "tests/machine/VersionResourceBuilder.h"
 
 namespace velkarix {
@@ -101,6 +103,23 @@ TEST_P(VersionConformance, ABlockCutAnywhereIsNeverReadBeyondItsEnd) {
             const auto found = versions_.VerQueryValueA(cut, part);
             EXPECT_LE(found.value_or(Bytes()).size(), size);
         }
+    }
+}
+
+// Whatever lengths it tells, the same is read of it everywhere.
+TEST_P(VersionConformance, ABrokenBlockTellsWhatCanBeReachedInIt) {
+    for (const VersionCase& each : AllVersionCases()) {
+        const auto table = versions_.VerQueryValueA(each.block, translation);
+        const bool isEnglish = table == Bytes{0x09, 0x04, 0xB0, 0x04};
+        const auto read = [&](const char* name) {
+            const auto found = versions_.VerQueryValueA(
+                each.block, std::string("\\StringFileInfo\\040904B0\\") + name);
+            const Bytes bytes = isEnglish ? found.value_or(Bytes()) : Bytes();
+            return std::string(bytes.begin(), std::find(bytes.begin(), bytes.end(), 0));
+        };
+        EXPECT_EQ(read("CompanyName"), each.company) << each.name;
+        EXPECT_EQ(read("ProductName"), each.product) << each.name;
+        EXPECT_EQ(read("FileDescription"), each.description) << each.name;
     }
 }
 
