@@ -108,6 +108,22 @@ TEST_P(RegistryConformance, AKeyNameMayHave255Bytes) {
     EXPECT_EQ(SubKeys(scratch_), (std::vector<std::string>{longest}));
 }
 
+// Of each call, whatever the levels of the path; the levels can be gone through one by one.
+TEST_P(RegistryConformance, APathMayHave260Bytes) {
+    const std::string above(200, 'a');
+    const std::string longest = above + "\\" + std::string(59, 'b');
+    EXPECT_EQ(Create(longest), error::Success);
+    EXPECT_EQ(Open(longest), error::Success);
+    EXPECT_EQ(Create(longest + "b"), error::MoreData);
+    EXPECT_EQ(Open(longest + "b"), error::MoreData);
+    EXPECT_EQ(registry_.RegDeleteKeyA(scratch_, longest + "b"), error::MoreData);
+    KeyHandle key = 0;
+    ASSERT_EQ(registry_.RegCreateKeyA(Opened(above, KeyAccess::All), std::string(60, 'b'), key),
+              error::Success);
+    registry_.RegCloseKey(key);
+    EXPECT_EQ(Open(longest + "b"), error::MoreData);
+}
+
 TEST_P(RegistryConformance, SubKeysAreListedByTheirNamesWhateverTheOrderOfMakingThem) {
     // No documentation promises an order, but every NT keeps subkeys sorted, and Wine does too.
     for (const char* name : {"beta", "Gamma", "ALPHA", "delta 2", "Delta 10"}) {

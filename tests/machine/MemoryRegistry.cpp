@@ -19,6 +19,7 @@ constexpr std::uint32_t AsMuchAsAllowed = 0x2000000;
 
 constexpr ErrorCode badPathName = 161;
 constexpr std::size_t longestKeyName = 255;
+constexpr std::size_t longestPath = 260;  // that one call takes
 constexpr std::size_t longestValueName95 = 255;
 constexpr std::size_t longestValueNameNt = 16383;
 
@@ -266,7 +267,7 @@ ErrorCode MemoryRegistry::StartOf(KeyHandle parent, const std::string& subKey,
     if (subKey.starts_with('\\')) {
         return family_ == Family::WindowsNt ? badPathName : error::FileNotFound;
     }
-    return error::Success;
+    return TrimAtNull(subKey).size() > longestPath ? error::MoreData : error::Success;
 }
 
 ErrorCode MemoryRegistry::Walk(KeyHandle parent, const std::string& subKey,
