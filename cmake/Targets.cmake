@@ -7,15 +7,20 @@ target_include_directories(velkarix_settings INTERFACE ${PROJECT_SOURCE_DIR}/src
 target_compile_options(velkarix_settings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
     # GCC 12 sees an overlap in every `"text" + string` (its bug 105651).
-    -Wno-restrict
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
     -ffunction-sections -fdata-sections)
 if(VELKARIX_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)
     target_compile_options(velkarix_settings INTERFACE
         ${sanitizers} -fno-omit-frame-pointer -O1 -g1
         # With sanitizers on, GCC loses track of what is initialised.
-        -Wno-maybe-uninitialized)
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_link_options(velkarix_settings INTERFACE ${sanitizers})
+endif()
+if(VELKARIX_FUZZ)
+    # What is built once for all fuzz targets: watched by the fuzzer, without its main.
+    target_compile_options(velkarix_settings INTERFACE -fsanitize=fuzzer-no-link)
+    target_compile_definitions(velkarix_settings INTERFACE _GLIBCXX_ASSERTIONS)
 endif()
 if(WIN32)
     # One file that needs no library of the compiler's beside it.
