@@ -1,0 +1,171 @@
+#include "fuzzing/StandingItems.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "browser/ItemPlaces.h"
+#include "browser/UrlTables.h"
+#include "fuzzing/FuzzTarget.h"
+#include "registry/RawValue.h"
+#include "registry/RegistryFile.h"
+#include "startup/StartupPlaces.h"
+#include "tests/machine/CaseFold.h"
+#include "tests/machine/RegistryFileMerge.h"
+
+namespace velkarix {
+
+namespace {
+
+constexpr const char* DisabledRoot = "Software\\Velkarix\\Disabled\\";
+const std::string KeyMark("\0\0key", 5);
+
+// The classes are a part of the machine's hive.
+std::string PathIn(Hive hive, const std::string& key) {
+    const char* const root = hive == Hive::CurrentUser    ? "HKCU\\"
+                             : hive == Hive::LocalMachine ? "HKLM\\"
+                                                          : "HKLM\\SOFTWARE\\Classes\\";
+    return FoldCase(root + key);
+}
+
+// Each place where items are, and the one where they are held.
+std::vector<std::pair<std::string, std::string>> MakeTwins() {
+    std::vector<std::pair<std::string, std::string>> twins;
+    for (const ItemPlaces* list : {&BHOPlaces, &ToolbarPlaces, &ButtonPlaces, &MenuPlaces,
+                                   &ProtocolPlaces, &DomainPlaces, &HookPlaces}) {
+        for (const ItemPlace& place : list->places) {
+            twins.emplace_back(PathIn(place.hive, place.live),
+                               PathIn(place.hive, std::string(DisabledRoot) + place.held));
+        }
+    }
+    for (const RunKey& key : RunKeys) {
+        const std::string name = std::string("Run") + key.suffix;
+        twins.emplace_back(
+            PathIn(key.hive, "Software\\Microsoft\\Windows\\CurrentVersion\\" + name),
+            PathIn(key.hive, DisabledRoot + name));
+    }
+    return twins;
+}
+
+bool IsIn(const std::string& path, const std::string& tree) {
+    return path.starts_with(tree) && (path.size() == tree.size() || path[tree.size()] == '\\');
+}
+
+// The paths that a path's twin may have.
+std::vector<std::string> TwinsOf(const std::string& path) {
+    static const auto Twins = MakeTwins();
+    std::vector<std::string> found;
+    for (const auto& [live, held] : Twins) {
+        if (IsIn(path, live)) found.push_back(held + path.substr(live.size()));
+        if (IsIn(path, held)) found.push_back(live + path.substr(held.size()));
+    }
+    return found;
+}
+
+// What the browser page's views of settings write, and what they take away.
+bool IsSetting(const std::string& path) {
+    static const std::string Exact[] = {
+        PathIn(Hive::LocalMachine, urlKey::Main),
+        PathIn(Hive::CurrentUser, urlKey::Main),
+        PathIn(Hive::LocalMachine, urlKey::Search),
+        PathIn(Hive::CurrentUser, urlKey::SearchURL),
+        PathIn(Hive::LocalMachine, urlKey::DefaultPrefix),
+        PathIn(Hive::LocalMachine, urlKey::Prefixes),
+        PathIn(Hive::CurrentUser,
+               "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings"),
+        PathIn(Hive::CurrentUser,
+               "Software\\Microsoft\\Windows\\CurrentVersion\\Internet "
+               "Settings\\ZoneMap\\ProtocolDefaults"),
+    };
+    static const std::string Trees[] = {
+        PathIn(Hive::CurrentUser, urlKey::Search),
+        PathIn(Hive::CurrentUser,
+               "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\Zones"),
+    };
+    return std::find(std::begin(Exact), std::end(Exact), path) != std::end(Exact) ||
+           std::any_of(std::begin(Trees), std::end(Trees),
+                       [&](const std::string& tree) { return IsIn(path, tree); });
+}
+
+}  // namespace
+
+StandingItems::StandingItems(const MemoryMachine& machine) : values_(Collect(machine.registry)) {
+    AddFiles(*machine.disk.Find("C:\\"));
+}
+
+void StandingItems::Collect(const MemoryHives& hives, Hive hive, const std::string& key,
+                            Values& values) {
+    const std::string path = PathIn(hive, key);
+    values[{path, KeyMark}] = {};
+    for (const std::string& name : hives.ValueNamesOf(hive, key)) {
+        const auto value = hives.ValueAt(hive, key, name);
+        values[{path, FoldCase(name)}] = {name, value->type, value->data};
+    }
+    const std::string above = key.empty() ? "" : key + "\\";
+    for (const std::string& name : hives.SubKeysOf(hive, key)) {
+        Collect(hives, hive, above + name, values);
+    }
+}
+
+StandingItems::Values StandingItems::Collect(const MemoryHives& hives) {
+    Values values;
+    Collect(hives, Hive::LocalMachine, "", values);
+    Collect(hives, Hive::CurrentUser, "", values);
+    return values;
+}
+
+void StandingItems::AddFiles(const MemoryEntry& folder) {
+    for (std::size_t i = 0; const auto entry = folder.children.At(i); ++i) {
+        const std::string content(entry->content.begin(), entry->content.end());
+        if (entry->name.ends_with(".lnk")) shortcuts_.insert(content);
+        if (entry->name.ends_with(".reg")) AddKept(content);
+        AddFiles(*entry);
+    }
+}
+
+// A file may hold a value several times, as it was at one time and another: each section counts.
+void StandingItems::AddKept(const std::string& file) {
+    constexpr std::string_view SectionEnd = "\r\n\r\n";
+    for (std::size_t start = RegistryFileHeader.size(); start < file.size();) {
+        const std::size_t end = file.find(SectionEnd, start) + SectionEnd.size();
+        MemoryHives section;
+        const bool merged = MergeRegistryFile(
+            section, std::string(RegistryFileHeader) + file.substr(start, end - start));
+        Expect(merged, "a kept file can be merged", file);
+        kept_.push_back(Collect(section));
+        start = end;
+    }
+}
+
+bool StandingItems::Has(const Place& place, const RawValue& value) const {
+    const auto found = values_.find(place);
+    return found != values_.end() && StandsAs(found->second, value);
+}
+
+bool StandingItems::HasKept(const Place& place, const RawValue& value) const {
+    return std::any_of(kept_.begin(), kept_.end(), [&](const Values& section) {
+        const auto found = section.find(place);
+        return found != section.end() && StandsAs(found->second, value);
+    });
+}
+
+std::string StandingItems::FindLost(const MemoryMachine& machine, bool wasDeletion) const {
+    const StandingItems now(machine);
+    for (const auto& [place, value] : values_) {
+        if (now.Has(place, value) || IsSetting(place.first)) continue;
+        bool stands = false;
+        bool hasName = wasDeletion || now.HasName(place);
+        for (const std::string& twin : TwinsOf(place.first)) {
+            stands = stands || now.Has({twin, place.second}, value);
+            hasName = hasName || now.HasName({twin, place.second});
+        }
+        if (!stands && !(hasName && now.HasKept(place, value))) {
+            return place.first + ", " + place.second;
+        }
+    }
+    for (const std::string& shortcut : shortcuts_) {
+        if (!now.shortcuts_.contains(shortcut)) return "a shortcut: " + shortcut;
+    }
+    return kept_.size() <= now.kept_.size() ? "" : "a kept file";
+}
+
+}  // namespace velkarix
