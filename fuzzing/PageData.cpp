@@ -116,9 +116,27 @@ class Putter {
             file.Shortcut(shortcut);
         }
     }
+    void PutProcess() {
+        MemoryProcess& process = machine_.AddProcess(input_.Byte(), TakeProgram());
+        // Each of these is as another process of the system is.
+        constexpr MemoryProcess& (MemoryProcess::*Kinds[])() = {
+            &MemoryProcess::NotOpenable, &MemoryProcess::ModulesUnreadable,
+            &MemoryProcess::Protected, &MemoryProcess::EndsBeforeOpening};
+        const std::size_t kind = input_.Below(8);
+        if (kind < std::size(Kinds)) (process.*Kinds[kind])();
+    }
+    void PutSafeList() { machine_.AddFile("C:\\Velkarix\\SafeProcess.vkl").Content(input_.Text()); }
     void PutProgram() { machine_.AddFile(ItemFile).VersionBlock(input_.Data()); }
 
   private:
+    // The path of a program that is there, or any text.
+    std::string TakeProgram() {
+        if (input_.Flag()) return input_.Text();
+        const std::string number = std::to_string(input_.Below(4));
+        const std::string path = "C:\\WINDOWS\\program" + number + ".exe";
+        machine_.AddFile(path).Content("content " + number).InUse(input_.Flag());
+        return path;
+    }
     void Put(Hive hive, const std::string& key, const std::string& name) {
         const RawValue value = TakeValue(input_);
         machine_.registry.SetRaw(hive, key, name, value.type, value.data);
@@ -131,8 +149,9 @@ class Putter {
 
 // By the number of the part.
 constexpr void (Putter::*Puts[])() = {
-    &Putter::PutItem,    &Putter::PutClass,    &Putter::PutRun,    &Putter::PutInstalled,
-    &Putter::PutSetting, &Putter::PutShortcut, &Putter::PutProgram};
+    &Putter::PutItem,      &Putter::PutClass,   &Putter::PutRun,
+    &Putter::PutInstalled, &Putter::PutSetting, &Putter::PutShortcut,
+    &Putter::PutProgram,   &Putter::PutProcess, &Putter::PutSafeList};
 static_assert(std::size(Puts) == static_cast<std::size_t>(PagePart::Count));
 
 FuzzSeed& PutPartNumber(FuzzSeed& seed, PagePart part) {
@@ -155,6 +174,7 @@ void PutCommonParts(MemoryMachine& machine) {
     for (const char* folder : Folders) machine.AddFolder(folder);
     machine.SetValue(Hive::LocalMachine, ShellFolders, "Common Startup", Folders[0]);
     machine.SetValue(Hive::CurrentUser, ShellFolders, "Startup", Folders[1]);
+    machine.AddFolder("C:\\Velkarix\\Backup");
     machine.AddFile(ItemFile).Content("MZ").Version({{"CompanyName", "Lathe Works"}});
 }
 
@@ -170,6 +190,11 @@ FuzzSeed& PutItemSeed(FuzzSeed& seed, std::size_t list, std::size_t place, bool 
     PutName(seed, name);
     if (PageLists[list].places.kind != ItemKind::Key) return seed;
     return PutMeaningfulName(seed.Byte(0), valueName);
+}
+
+FuzzSeed& PutProcessSeed(FuzzSeed& seed, std::size_t number, std::size_t kind) {
+    PutPartNumber(seed, PagePart::Process).Byte(10 + number);
+    return seed.Byte(0).Byte(number).Byte(number % 2).Byte(kind);
 }
 
 FuzzSeed& PutRunSeed(FuzzSeed& seed, std::size_t run, bool enabled, std::string_view name) {

@@ -7,7 +7,7 @@
 
 namespace velkarix {
 
-inline constexpr const char* FuzzedPages[] = {"frmIE", "frmStartup", "frmAddRemove"};
+inline constexpr const char* FuzzedPages[] = {"frmIE", "frmStartup", "frmAddRemove", "frmProcess"};
 
 struct PageList {
     const ItemPlaces& places;

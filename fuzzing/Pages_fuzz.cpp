@@ -62,6 +62,7 @@ class Session {
 
     void Act() {
         if (Page() == nullptr) Open();
+        PassAMinute();
         const StandingItems before(machine_);
         RecordingDesktop& desktop = program_.desktop;
         desktop.messages.clear();
@@ -77,9 +78,17 @@ class Session {
         ExpectAllClosed();
     }
 
+    // Backups that are made in one second replace each other.
+    void PassAMinute() {
+        constexpr FileTime Minute = 600'000'000;
+        time_ += Minute;
+        machine_.clock.SetLocalTime(ToSystemTime(time_));
+    }
+
     void ExpectAllClosed() {
         Expect(machine_.registry.OpenKeyCount() == 0 && machine_.files.OpenFileCount() == 0 &&
-                   machine_.files.OpenSearchCount() == 0 && machine_.shell.OpenIconCount() == 0,
+                   machine_.files.OpenSearchCount() == 0 && machine_.shell.OpenIconCount() == 0 &&
+                   machine_.processes.OpenHandleCount() == 0,
                "what was opened is closed");
     }
 
@@ -129,6 +138,7 @@ class Session {
 
     FuzzInput& input_;
     std::string page_;
+    FileTime time_ = ToFileTime(MakeTime(2004, 6, 1));
     MemoryMachine machine_;
     RunningProgram program_;
 };

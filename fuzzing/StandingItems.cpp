@@ -8,6 +8,7 @@
 #include "fuzzing/FuzzTarget.h"
 #include "registry/RawValue.h"
 #include "registry/RegistryFile.h"
+#include "shell/BackupSet.h"
 #include "startup/StartupPlaces.h"
 #include "tests/machine/CaseFold.h"
 #include "tests/machine/RegistryFileMerge.h"
@@ -116,7 +117,9 @@ StandingItems::Values StandingItems::Collect(const MemoryHives& hives) {
 void StandingItems::AddFiles(const MemoryEntry& folder) {
     for (std::size_t i = 0; const auto entry = folder.children.At(i); ++i) {
         const std::string content(entry->content.begin(), entry->content.end());
-        if (entry->name.ends_with(".lnk")) shortcuts_.insert(content);
+        for (const char* ending : {".lnk", ".exe", BackupCopyExtension}) {
+            if (entry->name.ends_with(ending)) files_.insert(content);
+        }
         if (entry->name.ends_with(".reg")) AddKept(content);
         AddFiles(*entry);
     }
@@ -162,8 +165,8 @@ std::string StandingItems::FindLost(const MemoryMachine& machine, bool wasDeleti
             return place.first + ", " + place.second;
         }
     }
-    for (const std::string& shortcut : shortcuts_) {
-        if (!now.shortcuts_.contains(shortcut)) return "a shortcut: " + shortcut;
+    for (const std::string& file : files_) {
+        if (!now.files_.contains(file)) return "a file: " + file;
     }
     return kept_.size() <= now.kept_.size() ? "" : "a kept file";
 }

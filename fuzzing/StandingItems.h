@@ -1,5 +1,6 @@
-// What stands on a machine before a command, to find what is lost behind it: each key, value and
-// shortcut must stand where it was, in its twin place, or in a file that was kept of it.
+// What stands on a machine before a command, to find what is lost behind it: each key and value
+// must stand where it was, in its twin place, or in a file that was kept of it; each shortcut and
+// program somewhere.
 #pragma once
 
 #include <map>
@@ -40,7 +41,7 @@ class StandingItems {
 
     Values values_;
     std::vector<Values> kept_;
-    std::set<std::string> shortcuts_;  // by their content
+    std::set<std::string> files_;  // shortcuts and programs, by their content
 };
 
 }  // namespace velkarix

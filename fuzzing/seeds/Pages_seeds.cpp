@@ -143,6 +143,16 @@ Bytes SeedOfInstalled(std::size_t group) {
     return seed.bytes;
 }
 
+Bytes SeedOfProcesses(std::size_t kind) {
+    PageSeed seed(3, kind % allNamedSystems.size());
+    for (std::size_t number = 0; number < 4; ++number) {
+        PutProcessSeed(seed.bytes, number, number == 0 ? kind : 7);
+    }
+    seed.TickAll("lstvProcess").Click("cmdAdd").Click("optFilter(1)").Click("cmdReport");
+    seed.SelectFirst("lstvProcess").Click("cmdKill").SelectFirst("lstvProcess").Click("cmdDelete");
+    return seed.bytes;
+}
+
 Bytes SeedOfSettings(std::size_t value) {
     PageSeed seed(0, value % allNamedSystems.size());
     for (std::size_t setting = 0; setting < 20; ++setting) {
@@ -177,6 +187,7 @@ std::vector<Bytes> Seeds() {
     for (std::size_t value = 0; value < HardValueCount; ++value) {
         seeds.push_back(SeedOfSettings(value));
     }
+    for (std::size_t kind = 0; kind < 8; ++kind) seeds.push_back(SeedOfProcesses(kind));
     return seeds;
 }
 
