@@ -34,9 +34,13 @@ std::string frmOptions::BackupFile(const std::string& name) {
     return BackupFolder(application_.settings.InstallFolder()) + name;
 }
 
-// What is restored into the folder of the backups would replace one of them, or itself.
+// What is restored into the folder of the backups would replace one of them, or itself. Whether a
+// path by short names or round about leads there can't be told by its text: one that ends in the
+// name of a file there is refused wherever it leads.
 bool frmOptions::IsBackup(const std::string& path) {
-    return ToLower(path).starts_with(ToLower(BackupFile({})));
+    const std::string name = path.substr(path.find_last_of("\\/:") + 1);
+    return ToLower(path).starts_with(ToLower(BackupFile({}))) ||
+           PathExists(application_.machine.files, BackupFile(name));
 }
 
 void frmOptions::LoadBackupList() {

@@ -243,6 +243,28 @@ TEST_F(OptionsPageTest, RestoresNothingOverTheBackupsThemselves) {
     EXPECT_EQ(Copy("5"), "(no file)");
 }
 
+TEST_F(OptionsPageTest, RestoresNothingOverBackupsByARoundaboutPath) {
+    const std::vector<std::string> over = {"C:\\Velkarix\\.\\Backup\\1.bup",
+                                           "C:/Velkarix/Backup/1.bup",
+                                           "C:\\VELKAR~1\\Backup\\1.bup",
+                                           "C:\\WINDOWS\\..\\Velkarix\\Backup\\1.bup ",
+                                           "Backup\\1.bup",
+                                           "C:\\Velkarix\\.\\Backup\\BACKUP~1.BUP"};
+    program.machine.AddFolder("C:\\Velkarix").ShortName("VELKAR~1");
+    for (std::size_t i = 0; i < over.size(); ++i) {
+        AddBackup(std::to_string(i + 1), over[i] + "\x01" + "6/1/2004\r\n", std::to_string(i + 1));
+    }
+    program.AddInstalledFile("Backup\\1.bup").ShortName("BACKUP~1.BUP");
+    Open();
+    Click("chkDelete");
+    for (std::size_t i = 0; i < over.size(); ++i) {
+        List().UserSelect(&List().Row(i));
+        Click("cmdrestore");
+    }
+    EXPECT_EQ(Told(), RowTexts(over.size(), "File Could not be restored"));
+    for (const char* stem : {"1", "2", "3", "4", "5", "6"}) EXPECT_EQ(Copy(stem), stem);
+}
+
 // The one place where a file is given up: the present one went before its copy turned out to be
 // missing.
 TEST_F(OptionsPageTest, HasDeletedThePresentFileWhenTheCopyIsMissing) {
