@@ -1,12 +1,10 @@
 // Definition lists of any bytes: the folded text is the lines as they are split elsewhere, however
 // the file comes in pieces and wherever reading it breaks off, and a look-up finds what a plain
 // search finds.
-#include <algorithm>
-
 #include "fuzzing/FuzzTarget.h"
+#include "fuzzing/PiecewiseFiles.h"
 #include "shell/DefinitionList.h"
 #include "shell/TextFile.h"
-#include "tests/machine/MemoryFileSystem.h"
 
 namespace velkarix {
 
@@ -14,24 +12,6 @@ namespace {
 
 constexpr const char* Path = "C:\\Velkarix\\List.vkl";
 constexpr std::size_t LargestText = 64 * 1024;
-
-// Files that come in pieces, and that can't be read beyond some place.
-class PiecewiseFiles : public MemoryFileSystem {
-  public:
-    using MemoryFileSystem::MemoryFileSystem;
-
-    ErrorCode ReadFile(FileHandle file, std::span<std::uint8_t> buffer,
-                       std::uint32_t& read) override {
-        const std::size_t wanted = std::min({buffer.size(), pieceSize, readable});
-        if (wanted == 0) return error::AccessDenied;
-        const ErrorCode result = MemoryFileSystem::ReadFile(file, buffer.first(wanted), read);
-        readable -= read;
-        return result;
-    }
-
-    std::size_t pieceSize = 1;
-    std::size_t readable = SIZE_MAX;
-};
 
 // Some bytes, or many of them that are alike.
 std::string TakeFile(FuzzInput& input) {
@@ -77,7 +57,6 @@ void RunInput(FuzzInput& input) {
         const std::string file = TakeFile(input);
         disk.AddFile(Path).Content(file);
         const bool isWhole = !input.Flag();
-        // Whether more follows is seen by one more call to read.
         files.readable = isWhole ? file.size() + 1 : input.Byte() % (file.size() + 1);
         expected += Folded(std::string_view(file).substr(0, files.readable), isWhole);
         LoadDefinitionList(files, list, Path);
