@@ -102,6 +102,24 @@ void RunInput(FuzzInput& input) {
     }
 }
 
+namespace {
+
+// A block of a type that isn't known. Who takes it for text counts its value twice and comes into
+// the midst of its child, where a node stands that is as long as nodes can be.
+Bytes OtherType() {
+    using namespace std::string_view_literals;
+    std::string block("\xA8\0\x34\0\x02\0"sv);
+    for (const char c : "VS_VERSION_INFO"sv) block += {c, '\0'};
+    block.resize(0x5C);
+    block += "\x4C\0\x40\0\0\0N\0"sv;
+    block.resize(0x90);
+    block += "\xF0\xFF\0\0\x01\0x\0\0\0\0\0\0\xFF"sv;
+    block.resize(0xA8);
+    return ToBytes(block);
+}
+
+}  // namespace
+
 std::vector<Bytes> Seeds() {
     const VersionResourceBuilder::Fields fields = {
         {"CompanyName", "Lathe Works"}, {"FileVersion", "1.2"}, {"Empty", ""}};
@@ -129,6 +147,7 @@ std::vector<Bytes> Seeds() {
             longName,
             spare,
             otherType,
+            OtherType(),
             ToBytes(narrow)};
 }
 
