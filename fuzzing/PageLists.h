@@ -7,7 +7,12 @@
 
 namespace velkarix {
 
-inline constexpr const char* FuzzedPages[] = {"frmIE", "frmStartup", "frmAddRemove", "frmProcess"};
+inline constexpr const char* FuzzedPages[] = {"frmIE", "frmStartup", "frmAddRemove", "frmProcess",
+                                              "frmOptions"};
+
+// Which of its items a list shows: each whatever is in it, those with a class, with a zone, or with
+// a file that is found in one of many ways.
+enum class Shows { Each, WithClass, WithZone, WithFile };
 
 struct PageList {
     const ItemPlaces& places;
@@ -16,23 +21,24 @@ struct PageList {
     const char* enable;
     const char* remove;
     const char* report;
-    bool showsAll;  // each item, whatever is in it
+    Shows shows;
 };
 
 inline const PageList PageLists[] = {
-    {BHOPlaces, "lstvBHO", "cmdDisableBHO", "cmdEnableBHO", "cmdBHODelete", "cmdReportBHO", true},
+    {BHOPlaces, "lstvBHO", "cmdDisableBHO", "cmdEnableBHO", "cmdBHODelete", "cmdReportBHO",
+     Shows::Each},
     {ToolbarPlaces, "lstvToolbar", "cmdToolbarDisable", "cmdToolbarEnable", "cmdDeleteToolbar",
-     "cmdreportToolbar", true},
+     "cmdreportToolbar", Shows::Each},
     {ButtonPlaces, "lstvButtons", "cmdButtonDisable", "cmdButtonEnable", "cmdDeleteButton",
-     "cmdReportButton", false},
+     "cmdReportButton", Shows::WithFile},
     {MenuPlaces, "lstvMenu", "cmdDisableMenu", "cmdEnableMenu", "cmdDeleteMenu", "cmdReportMenu",
-     true},
+     Shows::Each},
     {ProtocolPlaces, "lstvProtocol", "cmdProtocolDisable", "cmdProtocolEnable", "cmdProtocolDelete",
-     "cmdProtocolReport", false},
+     "cmdProtocolReport", Shows::WithClass},
     {DomainPlaces, "lstvDomains", "cmdDomainDisable", "cmdDomainEnable", "cmdDomainDelete",
-     "cmdDomainReport", false},
+     "cmdDomainReport", Shows::WithZone},
     {HookPlaces, "lstvHook", "cmdHookDisable", "cmdHookEnable", "cmdHookDelete", "cmdHookReport",
-     true},
+     Shows::Each},
 };
 
 }  // namespace velkarix

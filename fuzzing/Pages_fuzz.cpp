@@ -3,30 +3,23 @@
 // is there and loses nothing.
 #include <algorithm>
 #include <iterator>
-#include <span>
+#include <optional>
+#include <string>
+#include <utility>
 
+#include "fuzzing/ExpectedRows.h"
 #include "fuzzing/FuzzTarget.h"
 #include "fuzzing/Gestures.h"
 #include "fuzzing/PageData.h"
 #include "fuzzing/PageLists.h"
 #include "fuzzing/StandingItems.h"
-#include "startup/StartupColumns.h"
-#include "startup/StartupPlaces.h"
 #include "tests/machine/TestProgram.h"
 
 namespace velkarix {
 
 namespace {
 
-// The buffers that names are listed with: one that doesn't fit ends the list.
-constexpr std::size_t KeyCapacity = 255;
-constexpr std::size_t ValueCapacity = 260;
-
-std::span<const std::string> Listed(const std::vector<std::string>& names, std::size_t capacity) {
-    const auto end = std::find_if(names.begin(), names.end(),
-                                  [&](const std::string& name) { return name.size() >= capacity; });
-    return {names.begin(), end};
-}
+constexpr const char* Report = "C:\\Report.txt";
 
 class Session {
   public:
@@ -44,36 +37,45 @@ class Session {
             if (step == PartCount) {
                 Act();
             } else {
+                standing_.reset();
                 PutPart(input_, static_cast<PagePart>(step), program_.application, machine_);
             }
         }
         if (Page() == nullptr) Open();
+        if (page_ == "frmOptions") ExpectAllReported();
     }
 
   private:
     Form* Page() { return program_.application.forms.Loaded(page_); }
 
+    // The full report is written from the pages of a program that is whole.
     void Open() {
-        program_.application.forms.Show(page_);
+        if (page_ == "frmOptions") {
+            program_.Start();
+            program_.Get<Button>("frmMain", "cmdOptions").Raise("Click");
+        } else {
+            program_.application.forms.Show(page_);
+        }
         ExpectAllClosed();
-        if (page_ == FuzzedPages[0]) ExpectItemsShown();
-        if (page_ == FuzzedPages[1]) ExpectRunsShown();
+        ExpectAllShown();
     }
 
     void Act() {
         if (Page() == nullptr) Open();
         PassAMinute();
-        const StandingItems before(machine_);
+        if (!standing_) standing_.emplace(machine_);
         RecordingDesktop& desktop = program_.desktop;
         desktop.messages.clear();
         desktop.answers.assign(2, input_.Flag() ? MessageAnswer::Yes : MessageAnswer::No);
-        desktop.nextSaveFile = "C:\\Report.txt";
+        desktop.nextSaveFile = Report;
         MakeGesture(input_, *Page());
         const bool isDeletion = std::any_of(
             desktop.messages.begin(), desktop.messages.end(),
             [](const Message& message) { return message.icon == MessageIcon::Question; });
-        const std::string lost = before.FindLost(machine_, isDeletion);
+        StandingItems now(machine_);
+        const std::string lost = standing_->FindLost(now, isDeletion);
         Expect(lost.empty(), "nothing is lost", lost);
+        standing_ = std::move(now);
         Expect(!program_.application.itemChangeRuns, "a command ends");
         ExpectAllClosed();
     }
@@ -92,52 +94,52 @@ class Session {
                "what was opened is closed");
     }
 
-    void ExpectItemsShown() {
+    void ExpectShown(const char* list, const ExpectedRows& expected, RowTexts (*read)(ListView&)) {
+        const std::string difference =
+            expected.FindDifference(read(program_.Get<ListView>(page_, list)));
+        Expect(difference.empty(), "what is there is shown, and nothing else", difference);
+    }
+    void ExpectAllShown() {
+        const Application& application = program_.application;
+        const MemoryHives& hives = machine_.registry;
+        if (page_ == "frmStartup") {
+            ExpectShown("lstvStartup", ExpectRuns(application, hives), RunsShown);
+        }
+        if (page_ == "frmAddRemove") {
+            ExpectShown("lstvAddRemove", ExpectInstalled(hives), InstalledShown);
+        }
+        if (page_ != "frmIE") return;
         for (const PageList& list : PageLists) {
-            if (!list.showsAll) continue;
-            std::size_t count = 0;
-            for (const ItemPlace& place : list.places.places) {
-                count += CountItems(list.places.kind, place, true);
-                count += CountItems(list.places.kind, place, false);
-            }
-            Expect(program_.Get<ListView>(page_, list.list).RowCount() == count,
-                   "each item is shown", list.list);
+            ExpectShown(list.list, ExpectItems(application, hives, list), ItemsShown);
         }
-    }
-    std::size_t CountItems(ItemKind kind, const ItemPlace& place, bool enabled) {
-        const std::string holder = HoldingKey(program_.application, place, enabled);
-        if (kind == ItemKind::Key) {
-            const auto keys = machine_.registry.SubKeysOf(place.hive, holder);
-            return Count(Listed(keys, KeyCapacity), [](char first) { return first != '\0'; });
-        }
-        const auto values = machine_.registry.ValueNamesOf(place.hive, holder);
-        return Count(Listed(values, ValueCapacity), [](char first) { return first == '{'; });
-    }
-    static std::size_t Count(std::span<const std::string> names, bool (*counts)(char first)) {
-        return static_cast<std::size_t>(std::count_if(
-            names.begin(), names.end(),
-            [&](const std::string& name) { return !name.empty() && counts(name.front()); }));
     }
 
-    void ExpectRunsShown() {
-        auto& list = program_.Get<ListView>(page_, "lstvStartup");
-        std::size_t shown = 0;
-        for (std::size_t i = 0; i < list.RowCount(); ++i) {
-            if (FindRunKey(list.Row(i).Text(startupColumn::Location)) != nullptr) ++shown;
+    // Each row that a page shows stands in the full report.
+    void ExpectAllReported() {
+        for (Control* control : Page()->Controls()) {
+            auto* box = dynamic_cast<CheckBox*>(control);
+            if (box != nullptr) box->SetChecked(true);
         }
-        std::size_t count = 0;
-        for (const RunKey& run : RunKeys) {
-            for (const bool enabled : {true, false}) {
-                const std::string key = RunKeyPath(program_.application, run, enabled);
-                const auto names = machine_.registry.ValueNamesOf(run.hive, key);
-                count += Listed(names, ValueCapacity).size();
+        program_.desktop.nextSaveFile = Report;
+        program_.Get<Button>(page_, "cmdReport").Raise("Click");
+        ExpectAllClosed();
+        const std::string report = machine_.disk.ContentOf(Report).value_or("");
+        for (const char* page : FuzzedPages) {
+            if (page == page_) continue;
+            program_.application.forms.Show(page);
+            for (Control* control : program_.application.forms.Loaded(page)->Controls()) {
+                auto* list = dynamic_cast<ListView*>(control);
+                for (std::size_t i = 0; list != nullptr && i < list->RowCount(); ++i) {
+                    const std::string line = ": " + list->Row(i).Text(0);
+                    Expect(report.find(line) != std::string::npos, "each row is reported", line);
+                }
             }
         }
-        Expect(shown == count, "each value is shown");
     }
 
     FuzzInput& input_;
     std::string page_;
+    std::optional<StandingItems> standing_;  // nothing when more was put onto the machine
     FileTime time_ = ToFileTime(MakeTime(2004, 6, 1));
     MemoryMachine machine_;
     RunningProgram program_;

@@ -151,8 +151,7 @@ bool StandingItems::HasKept(const Place& place, const RawValue& value) const {
     });
 }
 
-std::string StandingItems::FindLost(const MemoryMachine& machine, bool wasDeletion) const {
-    const StandingItems now(machine);
+std::string StandingItems::FindLost(const StandingItems& now, bool wasDeletion) const {
     for (const auto& [place, value] : values_) {
         if (now.Has(place, value) || IsSetting(place.first)) continue;
         bool stands = false;

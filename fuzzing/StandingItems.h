@@ -18,11 +18,11 @@ class StandingItems {
   public:
     explicit StandingItems(const MemoryMachine& machine);
 
-    // One of the things that stood there and of which nothing is left on the machine as it is now;
+    // One of the things that stood there and of which nothing is left by what stands there now;
     // empty when there is none. Behind a deletion a kept file is enough, behind anything else
     // something of that name must stand as well. Settings aren't looked at: commands write them
     // over.
-    std::string FindLost(const MemoryMachine& machine, bool wasDeletion) const;
+    std::string FindLost(const StandingItems& now, bool wasDeletion) const;
 
   private:
     // A key's path without case, with its hive, and a value's name; of the key itself, a name that

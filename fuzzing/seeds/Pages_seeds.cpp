@@ -35,6 +35,7 @@ class PageSeed {
     PageSeed& Touch(const char* control) {
         const auto& controls = form_.Controls();
         const auto found = std::find(controls.begin(), controls.end(), form_.Find(control));
+        Expect(found != controls.end(), "a page has the controls of its seeds", control);
         bytes.Byte(static_cast<std::size_t>(PagePart::Count)).Byte(1);
         return Byte(static_cast<std::size_t>(found - controls.begin()));
     }
@@ -137,6 +138,7 @@ Bytes SeedOfInstalled(std::size_t group) {
         PutValue(put(false, "DisplayName"), registryType::Sz, key);
         PutValue(put(false, "UninstallString"), registryType::Sz, ItemFile);
         if (value % 2 == 0) put(false, "DisplayIcon").Byte(value);
+        put(false, "NoRemove").Byte(value);
         put(true, "SlowInfoCache").Byte(value);
     }
     seed.Click("cmdReport").SelectFirst("lstvAddRemove").Click("cmdDelete");
@@ -149,7 +151,29 @@ Bytes SeedOfProcesses(std::size_t kind) {
         PutProcessSeed(seed.bytes, number, number == 0 ? kind : 7);
     }
     seed.TickAll("lstvProcess").Click("cmdAdd").Click("optFilter(1)").Click("cmdReport");
-    seed.SelectFirst("lstvProcess").Click("cmdKill").SelectFirst("lstvProcess").Click("cmdDelete");
+    for (const char* command : {"cmdDelete", "cmdKill", "cmdDelete"}) {
+        seed.SelectFirst("lstvProcess").Click(command);
+    }
+    return seed.bytes;
+}
+
+// Something of each kind, for the full report.
+Bytes SeedOfReport(std::size_t group) {
+    PageSeed seed(4, group % allNamedSystems.size());
+    for (const std::size_t number : GroupOf(group, HardValueCount)) {
+        const std::string name = NameOf(number);
+        for (std::size_t list = 0; list < std::size(PageLists); ++list) {
+            const std::string item = NameOf(number + HardValueCount * (1 + list));
+            PutItemSeed(seed.bytes, list, 0, true, item, "*").Byte(Dword2);
+            PutItemSeed(seed.bytes, list, 0, false, item, "CLSID").Byte(number);
+        }
+        PutRunSeed(seed.bytes, number % RunKeys.size(), true, name).Byte(PathValue);
+        for (const char* value : {"DisplayName", "UninstallString"}) {
+            PutValue(PutInstalledSeed(seed.bytes, false, name, value), registryType::Sz, name);
+        }
+        PutProcessSeed(seed.bytes, number % 4, number % 8);
+    }
+    seed.Click("chkProcess").Click("cmdReport");
     return seed.bytes;
 }
 
@@ -183,6 +207,7 @@ std::vector<Bytes> Seeds() {
     for (std::size_t group = 0; group * GroupSize < HardValueCount; ++group) {
         seeds.push_back(SeedOfInstalled(group));
         seeds.push_back(SeedOfShortcuts(group));
+        seeds.push_back(SeedOfReport(group));
     }
     for (std::size_t value = 0; value < HardValueCount; ++value) {
         seeds.push_back(SeedOfSettings(value));
