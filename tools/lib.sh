@@ -7,6 +7,9 @@ cache=$root/.cache
 # Where the program, its samples and its driver were built.
 # shellcheck disable=SC2034
 windows_build=${VELKARIX_BUILD:-$root/build/windows-x86}
+# How much of what can be done side by side is done so, by compilers and by others.
+jobs=${VELKARIX_JOBS:-$(nproc)}
+export CMAKE_BUILD_PARALLEL_LEVEL=$jobs
 
 fail() {
     echo "${0##*/}: $*" >&2
