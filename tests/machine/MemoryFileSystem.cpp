@@ -169,6 +169,9 @@ ErrorCode MemoryFileSystem::CreateFileA(const std::string& path, FileUse use, Fi
     if (const ErrorCode failure = journal_.Enter("CreateFileA", path)) {
         return failure;
     }
+    if (use != FileUse::Read) {
+        openedForWriting_.push_back(path);
+    }
     OpenFile open{nullptr, use, 0};
     ErrorCode failure = error::Success;
     open.entry =

@@ -23,6 +23,8 @@ class MemoryFileSystem : public FileSystem {
     std::size_t OpenFileCount() const { return files_.size(); }
     std::size_t OpenSearchCount() const { return searches_.size(); }
 
+    // The path of every file that was opened to be written, in the order of the openings.
+    const std::vector<std::string>& OpenedForWriting() const { return openedForWriting_; }
     // What is to be deleted at the next start, in the order that it was asked for.
     const std::vector<std::string>& DeletedAtNextStart() const { return deletedAtNextStart_; }
     // Whether the system can delete at its next start, as the NT family does; it can at first.
@@ -64,6 +66,7 @@ class MemoryFileSystem : public FileSystem {
     MemoryDisk& disk_;
     bool hasPathFileExists_ = true;
     Family family_ = Family::WindowsNt;
+    std::vector<std::string> openedForWriting_;
     std::vector<std::string> deletedAtNextStart_;
     std::map<FileHandle, OpenFile> files_;
     std::map<SearchHandle, Search> searches_;
