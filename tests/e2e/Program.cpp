@@ -27,8 +27,8 @@ Window FirstWindow(DWORD processId, bool (*isWanted)(const Window&)) {
 
 }  // namespace
 
-Program::Program(const Install& install)
-    : process_(install.Path("Velkarix.exe"), install.Folder()) {
+Program::Program(const Install& install, const std::string& folder)
+    : process_(install.Path("Velkarix.exe"), folder.empty() ? install.Folder() : folder) {
     process_.WaitIdle();
 }
 

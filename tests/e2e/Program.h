@@ -13,8 +13,9 @@ namespace velkarix::e2e {
 
 class Program {
   public:
-    // Starts the program of that installation. It is closed with its object.
-    explicit Program(const Install& install);
+    // Starts the program of that installation, with `folder` for the current one (empty: that of
+    // the installation). It is closed with its object.
+    explicit Program(const Install& install, const std::string& folder = {});
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;

@@ -47,9 +47,9 @@ void ProgramTest::ForgetOpened() {
     DeleteFileA(RecorderLog().c_str());
 }
 
-Program& ProgramTest::Start() {
+Program& ProgramTest::Start(const std::string& folder) {
     program_.reset();
-    program_.emplace(install_);
+    program_.emplace(install_, folder);
     EXPECT_TRUE(program_->Main()) << "the main window doesn't come";
     return *program_;
 }

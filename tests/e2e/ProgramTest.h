@@ -18,8 +18,8 @@ class ProgramTest : public testing::Test {
     // Likewise, in a folder with that in its name.
     explicit ProgramTest(const std::string& title);
 
-    // Starts the program and waits until its first page stands.
-    Program& Start();
+    // Starts the program and waits until its first page stands. `folder` as with Program.
+    Program& Start(const std::string& folder = {});
     void EndProgram() { program_.reset(); }
     bool HasStarted() const { return program_.has_value(); }
     // The program that Start started.

@@ -224,6 +224,7 @@ std::string PlaceOf(const ChangingCall& changing, const std::string& arguments) 
 bool IsIn(const std::string& path, const char* place) {
     const std::string folded = FoldCase(path);
     const std::string around = FoldCase(place);
+    if (folded.find("\\..") != std::string::npos) return false;  // it leads out again
     if (around.ends_with('|')) return folded + "|" == around;
     if (!folded.starts_with(around)) return false;
     const std::string rest = folded.substr(around.size());

@@ -57,6 +57,7 @@ TEST(Safety, AChangeElsewhereIsComplainedOf) {
         {"frmIE", {"RegDeleteKeyA", "HKLM\\Software\\Velkarix\\DisabledNot"}},
         {"frmIE", {"SHCopyKeyA", "HKLM\\Software\\Velkarix\\Disabled, HKLM\\Elsewhere"}},
         {"frmProcess", {"CopyFileA", "C:\\Tools\\a.exe, C:\\WINDOWS\\a.exe"}},
+        {"frmProcess", {"DeleteFileA", "C:\\Velkarix\\Backup\\..\\a.exe"}},
         {"frmProcess", {"MoveFileExA", "C:\\WINDOWS\\a.exe"}},
         {"frmMain", {"WritePrivateProfileStringA", "Main, View, 1, Settings.ini"}},
     };

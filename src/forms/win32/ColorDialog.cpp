@@ -2,6 +2,8 @@
 
 #include <commdlg.h>
 
+#include "forms/win32/CommonDialogs.h"
+
 namespace velkarix {
 
 ColorDialog::ColorDialog() {
@@ -9,13 +11,14 @@ ColorDialog::ColorDialog() {
 }
 
 std::optional<Color> ColorDialog::Ask(HWND owner, Color present) {
+    const auto call = CommonDialogs.Find<decltype(&::ChooseColorA)>("ChooseColorA");
     CHOOSECOLORA dialog{};
     dialog.lStructSize = sizeof(dialog);
     dialog.hwndOwner = owner;
     dialog.rgbResult = present;
     dialog.lpCustColors = mixed_.data();
     dialog.Flags = CC_RGBINIT | CC_FULLOPEN;
-    if (ChooseColorA(&dialog) == FALSE) return std::nullopt;
+    if (call == nullptr || call(&dialog) == FALSE) return std::nullopt;
     return dialog.rgbResult;
 }
 

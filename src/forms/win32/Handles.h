@@ -18,9 +18,6 @@ struct IconDeleter {
 struct MenuDeleter {
     void operator()(HMENU menu) const { DestroyMenu(menu); }
 };
-struct ImageListDeleter {
-    void operator()(HIMAGELIST list) const { ImageList_Destroy(list); }
-};
 
 template <typename Handle, typename Deleter>
 using Owned = std::unique_ptr<std::remove_pointer_t<Handle>, Deleter>;
@@ -30,7 +27,6 @@ using OwnedBrush = Owned<HBRUSH, GdiObjectDeleter>;
 using OwnedBitmap = Owned<HBITMAP, GdiObjectDeleter>;
 using OwnedIcon = Owned<HICON, IconDeleter>;
 using OwnedMenu = Owned<HMENU, MenuDeleter>;
-using OwnedImageList = Owned<HIMAGELIST, ImageListDeleter>;
 
 // The screen's device context, for measuring.
 class ScreenContext {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "forms/PictureScaling.h"
-#include "forms/win32/LateCalls.h"
+#include "forms/win32/CommonControls.h"
 
 namespace velkarix {
 

@@ -4,7 +4,7 @@
 #include <cstddef>
 
 #include "forms/ImageList.h"
-#include "forms/win32/Handles.h"
+#include "forms/win32/CommonControls.h"
 
 namespace velkarix {
 

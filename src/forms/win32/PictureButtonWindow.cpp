@@ -1,8 +1,8 @@
 #include "forms/win32/PictureButtonWindow.h"
 
+#include "forms/win32/CommonControls.h"
 #include "forms/win32/Drawing.h"
 #include "forms/win32/Icons.h"
-#include "forms/win32/LateCalls.h"
 
 namespace velkarix {
 

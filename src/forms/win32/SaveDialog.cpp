@@ -4,6 +4,8 @@
 
 #include <cstddef>
 
+#include "forms/win32/CommonDialogs.h"
+
 namespace velkarix {
 
 namespace {
@@ -35,7 +37,8 @@ std::optional<std::string> AskSavePath(HWND owner, const SaveRequest& request) {
     dialog.nMaxFile = Capacity;
     if (!extension.empty()) dialog.lpstrDefExt = extension.c_str();
     dialog.Flags = OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST | OFN_NOCHANGEDIR;
-    if (GetSaveFileNameA(&dialog) == FALSE) return std::nullopt;
+    const auto call = CommonDialogs.Find<decltype(&::GetSaveFileNameA)>("GetSaveFileNameA");
+    if (call == nullptr || call(&dialog) == FALSE) return std::nullopt;
     return std::string(path.c_str());
 }
 

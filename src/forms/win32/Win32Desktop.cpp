@@ -4,10 +4,10 @@
 
 #include "forms/win32/ApplicationWindow.h"
 #include "forms/win32/ColorDialog.h"
+#include "forms/win32/CommonControls.h"
 #include "forms/win32/EventLoop.h"
 #include "forms/win32/FormFrame.h"
 #include "forms/win32/FormWindows.h"
-#include "forms/win32/LateCalls.h"
 #include "forms/win32/MessageBoxes.h"
 #include "forms/win32/PopupMenus.h"
 #include "forms/win32/SaveDialog.h"

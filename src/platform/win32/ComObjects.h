@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "platform/win32/WindowsHeaders.h"
 
@@ -13,16 +14,14 @@ namespace velkarix {
 // The service for this thread. Objects must be gone before it is.
 class ComSession {
   public:
-    ComSession() : isOurs_(SUCCEEDED(::CoInitialize(nullptr))) {}
+    ComSession();
     // Where somebody has started the service in another mode it serves as well, but isn't ours.
-    ~ComSession() {
-        if (isOurs_) ::CoUninitialize();
-    }
+    ~ComSession();
     ComSession(const ComSession&) = delete;
     ComSession& operator=(const ComSession&) = delete;
 
   private:
-    bool isOurs_;
+    bool isOurs_ = false;
 };
 
 struct ReleaseObject {
@@ -32,16 +31,18 @@ struct ReleaseObject {
 template <typename Interface>
 using ComPointer = std::unique_ptr<Interface, ReleaseObject>;
 
-// A new object that lives in this process; null where the system can't make one.
+// A new object that lives in this process, as one of its interfaces; null where the system can't
+// make one.
+void* CreateObject(const CLSID& classId, const IID& interfaceId);
+
 template <typename Interface>
 ComPointer<Interface> CreateObject(const CLSID& classId) {
-    void* object = nullptr;
-    if (FAILED(::CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, __uuidof(Interface),
-                                  &object))) {
-        return nullptr;
-    }
-    return ComPointer<Interface>(static_cast<Interface*>(object));
+    return ComPointer<Interface>(
+        static_cast<Interface*>(CreateObject(classId, __uuidof(Interface))));
 }
+
+// The class that the registry has under that name; nothing when it has none.
+std::optional<CLSID> ClassNamed(const wchar_t* name);
 
 // Another interface of an object; null when it has no such.
 template <typename Interface>

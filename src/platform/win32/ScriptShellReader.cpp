@@ -1,9 +1,11 @@
 #include "platform/win32/ScriptShellReader.h"
 
+#include <optional>
 #include <string>
 #include <utility>
 
 #include "platform/win32/ComObjects.h"
+#include "platform/win32/SystemLibrary.h"
 #include "platform/win32/WideText.h"
 
 // The header of automation needs the system's before it.
@@ -12,15 +14,33 @@
 namespace velkarix {
 namespace {
 
-// A value of automation, with what it owns.
+struct AutomationCalls {
+    decltype(&::VariantClear) clear;
+    decltype(&::SysAllocString) allocate;
+    decltype(&::SysStringLen) length;
+
+    bool IsThere() const { return clear != nullptr && allocate != nullptr && length != nullptr; }
+};
+
+const AutomationCalls& Automation() {
+    static SystemLibrary library("oleaut32.dll");
+    static const AutomationCalls calls{
+        library.Find<decltype(&::VariantClear)>("VariantClear"),
+        library.Find<decltype(&::SysAllocString)>("SysAllocString"),
+        library.Find<decltype(&::SysStringLen)>("SysStringLen"),
+    };
+    return calls;
+}
+
+// A value of automation, with what it owns. Only where the calls are there.
 class Variant {
   public:
-    Variant() { ::VariantInit(&value_); }
-    explicit Variant(const std::wstring& text) : Variant() {
+    Variant() = default;
+    explicit Variant(const std::wstring& text) {
         value_.vt = VT_BSTR;
-        value_.bstrVal = ::SysAllocString(text.c_str());
+        value_.bstrVal = Automation().allocate(text.c_str());
     }
-    ~Variant() { ::VariantClear(&value_); }
+    ~Variant() { Automation().clear(&value_); }
     Variant(const Variant&) = delete;
     Variant& operator=(const Variant&) = delete;
 
@@ -29,8 +49,9 @@ class Variant {
     // False for anything but a text. The null pointer is an empty one.
     bool Text(std::string& text) const {
         if (value_.vt != VT_BSTR) return false;
-        text = value_.bstrVal == nullptr ? std::string()
-                                         : ToAnsi({value_.bstrVal, ::SysStringLen(value_.bstrVal)});
+        text = value_.bstrVal == nullptr
+                   ? std::string()
+                   : ToAnsi({value_.bstrVal, Automation().length(value_.bstrVal)});
         return true;
     }
     ComPointer<IDispatch> Object() const {
@@ -39,7 +60,7 @@ class Variant {
     }
 
   private:
-    VARIANT value_;
+    VARIANT value_{};  // holds nothing
 };
 
 // Calls the member of that name, which takes `argument` or, where that is null, nothing.
@@ -69,9 +90,9 @@ class ScriptShellReader : public ShortcutReader {
     // Null where the object can't be made.
     static std::unique_ptr<ShortcutReader> Make() {
         auto reader = std::make_unique<ScriptShellReader>();
-        CLSID classId;
-        if (FAILED(::CLSIDFromProgID(L"WScript.Shell", &classId))) return nullptr;
-        reader->shell_ = CreateObject<IDispatch>(classId);
+        const std::optional<CLSID> classId = ClassNamed(L"WScript.Shell");
+        if (!classId || !Automation().IsThere()) return nullptr;
+        reader->shell_ = CreateObject<IDispatch>(*classId);
         if (!reader->shell_) return nullptr;
         return reader;
     }

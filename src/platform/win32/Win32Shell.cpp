@@ -22,9 +22,10 @@ constexpr UINT NoFile = 0xFFFFFFFF;
 std::uint32_t Win32Shell::ShellExecuteA(WindowHandle parent, const std::string& verb,
                                         const std::string& file, const std::string& parameters,
                                         const std::string& folder, int showCommand) {
-    const HINSTANCE result =
-        ::ShellExecuteA(reinterpret_cast<HWND>(parent), TextOrNone(verb), file.c_str(),
-                        TextOrNone(parameters), TextOrNone(folder), showCommand);
+    const auto call = shell_.Find<decltype(&::ShellExecuteA)>("ShellExecuteA");
+    if (call == nullptr) return SE_ERR_DLLNOTFOUND;
+    const HINSTANCE result = call(reinterpret_cast<HWND>(parent), TextOrNone(verb), file.c_str(),
+                                  TextOrNone(parameters), TextOrNone(folder), showCommand);
     return static_cast<std::uint32_t>(reinterpret_cast<UINT_PTR>(result));
 }
 
@@ -33,9 +34,11 @@ std::uint32_t Win32Shell::WinExec(const std::string& commandLine, int showComman
 }
 
 ExtractedIcons Win32Shell::ExtractIconExA(const std::string& path, int index) {
+    const auto call = shell_.Find<decltype(&::ExtractIconExA)>("ExtractIconExA");
+    if (call == nullptr) return {};
     HICON largeIcon = nullptr;
     HICON smallIcon = nullptr;
-    const UINT count = ::ExtractIconExA(path.c_str(), index, &largeIcon, &smallIcon, 1);
+    const UINT count = call(path.c_str(), index, &largeIcon, &smallIcon, 1);
     // Without an icon some systems leave anything in the handles.
     if (count == 0 || count == NoFile) {
         return {};

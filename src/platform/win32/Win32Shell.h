@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Shell.h"
+#include "platform/win32/SystemLibrary.h"
 
 namespace velkarix {
 
@@ -14,6 +15,9 @@ class Win32Shell : public Shell {
     ExtractedIcons ExtractIconExA(const std::string& path, int index) override;
     std::optional<Picture> DrawIconEx(IconHandle icon) override;
     bool DestroyIcon(IconHandle icon) override;
+
+  private:
+    SystemLibrary shell_{"shell32.dll"};
 };
 
 }  // namespace velkarix

@@ -8,14 +8,17 @@
 namespace velkarix {
 
 std::uint32_t Win32VersionResources::GetFileVersionInfoSizeA(const std::string& path) {
+    const auto call =
+        version_.Find<decltype(&::GetFileVersionInfoSizeA)>("GetFileVersionInfoSizeA");
     DWORD unused = 0;
-    return ::GetFileVersionInfoSizeA(path.c_str(), &unused);
+    return call == nullptr ? 0 : call(path.c_str(), &unused);
 }
 
 std::optional<Bytes> Win32VersionResources::GetFileVersionInfoA(const std::string& path,
                                                                 std::uint32_t size) {
+    const auto call = version_.Find<decltype(&::GetFileVersionInfoA)>("GetFileVersionInfoA");
     Bytes block(size);
-    if (!::GetFileVersionInfoA(path.c_str(), 0, size, block.data())) return std::nullopt;
+    if (call == nullptr || !call(path.c_str(), 0, size, block.data())) return std::nullopt;
     return block;
 }
 
@@ -32,9 +35,10 @@ std::optional<Bytes> Win32VersionResources::VerQueryValueA(const Bytes& block,
     room.resize(2 * block.size() + 16);
     std::string name(subBlock);
 
+    const auto call = version_.Find<decltype(&::VerQueryValueA)>("VerQueryValueA");
     void* found = nullptr;
     UINT size = 0;
-    if (!::VerQueryValueA(room.data(), name.data(), &found, &size)) return std::nullopt;
+    if (call == nullptr || !call(room.data(), name.data(), &found, &size)) return std::nullopt;
 
     const auto* const start = static_cast<const std::uint8_t*>(found);
     const std::uint8_t* const end = room.data() + room.size();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/VersionResources.h"
+#include "platform/win32/SystemLibrary.h"
 
 namespace velkarix {
 
@@ -10,6 +11,9 @@ class Win32VersionResources : public VersionResources {
     std::uint32_t GetFileVersionInfoSizeA(const std::string& path) override;
     std::optional<Bytes> GetFileVersionInfoA(const std::string& path, std::uint32_t size) override;
     std::optional<Bytes> VerQueryValueA(const Bytes& block, const std::string& subBlock) override;
+
+  private:
+    SystemLibrary version_{"version.dll"};
 };
 
 }  // namespace velkarix

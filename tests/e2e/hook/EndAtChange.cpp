@@ -8,6 +8,7 @@
 #include <iterator>
 
 #include "Inside.h"
+#include "Pin.h"
 
 namespace {
 
@@ -61,13 +62,6 @@ int TurnImports(std::uint8_t* module) {
         }
     }
     return turned;
-}
-
-// This library must stay when nobody asks it any more.
-void Pin() {
-    HMODULE own = nullptr;
-    GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
-                       reinterpret_cast<const char*>(&Pin), &own);
 }
 
 int TurnAllImports() {

@@ -13,6 +13,21 @@ inline constexpr const char* CutTextsQuestion = "Velkarix.Test.CutTexts";
 inline constexpr const char* EndAtChangeQuestion = "Velkarix.Test.EndAtChange";
 inline constexpr unsigned EndedAtChange = 77;  // the exit code of a program that was ended so
 
+// With the flags that it is loaded with: whether PlantedName can be, by its bare name; see
+// plant/Plant.cpp.
+inline constexpr const char* LoadPlantedQuestion = "Velkarix.Test.LoadPlanted";
+inline constexpr const char* PlantedName = "VelkarixPlant.dll";
+inline constexpr const char* IsLoaded = "loaded";
+inline constexpr const char* IsNotFound = "not found";
+
+// How many pieces of memory the program itself has, and their bytes; then those of all libraries.
+inline constexpr const char* CountMemoryQuestion = "Velkarix.Test.CountMemory";
+
+// From now on the dialog that asks where to save is answered by itself, with the file SavedName of
+// the current folder. The answer is empty where that can't be done.
+inline constexpr const char* SkipSaveDialogQuestion = "Velkarix.Test.SkipSaveDialog";
+inline constexpr const char* SavedName = "Saved.txt";
+
 inline constexpr const char* AnswerMemoryName = "Velkarix.Test.Answer";
 inline constexpr int AnswerMemorySize = 16384;
 inline constexpr const char* PopupMenuClass = "#32768";

@@ -9,6 +9,8 @@
 
 #include "EndAtChange.h"
 #include "Inside.h"
+#include "MemoryCount.h"
+#include "SkipSaveDialog.h"
 
 namespace {
 
@@ -153,11 +155,20 @@ extern "C" __declspec(dllexport) LRESULT CALLBACK
     static const UINT countUserObjects = RegisterWindowMessageA(CountUserObjectsQuestion);
     static const UINT cutTexts = RegisterWindowMessageA(CutTextsQuestion);
     static const UINT endAtChange = RegisterWindowMessageA(EndAtChangeQuestion);
+    static const UINT countMemory = RegisterWindowMessageA(CountMemoryQuestion);
+    static const UINT skipSaveDialog = RegisterWindowMessageA(SkipSaveDialogQuestion);
+    static const UINT loadPlanted = RegisterWindowMessageA(LoadPlantedQuestion);
     if (code == HC_ACTION) {
         const auto* sent = reinterpret_cast<const CWPSTRUCT*>(lParam);
         if (sent->message == readMenu) Answer(DescribeMenu(sent->hwnd));
         if (sent->message == countUserObjects) Answer(CountUserObjects());
         if (sent->message == cutTexts) Answer(CutTexts(sent->hwnd));
+        if (sent->message == countMemory) Answer(CountMemory());
+        if (sent->message == skipSaveDialog) Answer(SkipSaveDialog() ? "ready" : "");
+        if (sent->message == loadPlanted) {
+            const auto flags = static_cast<DWORD>(sent->wParam);
+            Answer(LoadLibraryExA(PlantedName, nullptr, flags) != nullptr ? IsLoaded : IsNotFound);
+        }
         if (sent->message == endAtChange) {
             Answer(EndAtChange(static_cast<int>(sent->wParam)) ? "ready" : "");
         }
