@@ -1,6 +1,7 @@
 #include "ObjectCounts.h"
 
 #include <windows.h>
+#include <gtest/gtest.h>
 #include <winternl.h>
 
 #include <algorithm>
@@ -117,6 +118,31 @@ ObjectCounts CountObjects(const Program& program) {
     if (counts.gdi == 0) CountGdiTable(process.Handle(), counts);
     counts.kernel = KernelHandles(process);
     return counts;
+}
+
+ObjectCounts LeastObjects(const Program& program) {
+    ObjectCounts least = CountObjects(program);
+    for (int i = 0; i < 15; ++i) {
+        Sleep(20);
+        const ObjectCounts next = CountObjects(program);
+        least.kernel = std::min(least.kernel, next.kernel);
+        least.gdi = std::min(least.gdi, next.gdi);
+        least.user = std::min(least.user, next.user);
+        least.windowContexts = std::min(least.windowContexts, next.windowContexts);
+    }
+    EXPECT_GT(std::min({least.kernel, least.gdi, least.user}), 0u) << "no count to be had";
+    return least;
+}
+
+void ExpectNoMoreObjects(const Program& program, const ObjectCounts& before) {
+    const ObjectCounts now = LeastObjects(program);
+    EXPECT_LE(now.kernel, before.kernel);
+    EXPECT_LE(now.gdi, before.gdi);
+    EXPECT_LE(now.user, before.user);
+    // How many contexts wait for the next who draws depends on how much was drawn at once; a
+    // context that isn't given back is lost at every switch.
+    constexpr DWORD MostThatWait = 64;
+    EXPECT_LE(now.windowContexts, before.windowContexts + MostThatWait);
 }
 
 }  // namespace velkarix::e2e

@@ -1,5 +1,4 @@
 // However long the program runs, it holds no more of the system's objects.
-#include <algorithm>
 #include <iterator>
 
 #include "BrowserItems.h"
@@ -13,31 +12,8 @@ namespace {
 
 class Resources : public ProgramTest {
   protected:
-    // The least of many counts: what is held only while something is drawn isn't a loss, and a loss
-    // is in all of them.
-    ObjectCounts Count() {
-        ObjectCounts least = CountObjects(Running());
-        for (int i = 0; i < 15; ++i) {
-            Sleep(20);
-            const ObjectCounts next = CountObjects(Running());
-            least.kernel = std::min(least.kernel, next.kernel);
-            least.gdi = std::min(least.gdi, next.gdi);
-            least.user = std::min(least.user, next.user);
-            least.windowContexts = std::min(least.windowContexts, next.windowContexts);
-        }
-        EXPECT_GT(std::min({least.kernel, least.gdi, least.user}), 0u) << "no count to be had";
-        return least;
-    }
-    void ExpectNoMoreThan(const ObjectCounts& before) {
-        const ObjectCounts now = Count();
-        EXPECT_LE(now.kernel, before.kernel);
-        EXPECT_LE(now.gdi, before.gdi);
-        EXPECT_LE(now.user, before.user);
-        // How many contexts wait for the next who draws depends on how much was drawn at once; a
-        // context that isn't given back is lost at every switch.
-        constexpr DWORD MostThatWait = 64;
-        EXPECT_LE(now.windowContexts, before.windowContexts + MostThatWait);
-    }
+    ObjectCounts Count() { return LeastObjects(Running()); }
+    void ExpectNoMoreThan(const ObjectCounts& before) { ExpectNoMoreObjects(Running(), before); }
     // Goes round the pages; ends on the first one.
     void Switch(int times) {
         static const char* const buttons[] = {"cmdIE",      "cmdStartup",   "cmdAddremove",
