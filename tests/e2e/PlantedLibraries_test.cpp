@@ -1,5 +1,9 @@
 // Libraries of the system are the system's own, whatever lies beside the program or in the current
 // folder under their names.
+#include <windows.h>
+// The header of the snapshots needs the system's before it.
+#include <tlhelp32.h>
+
 #include <algorithm>
 #include <filesystem>
 
@@ -20,8 +24,9 @@ namespace fs = std::filesystem;
 // lies beside any program: that the program doesn't use it is seen by the facts of files. And of
 // kernel32 there is but one.
 const std::vector<std::string> Libraries = {
-    "psapi.dll",   "shlwapi.dll", "comctl32.dll", "comdlg32.dll", "ole32.dll",  "oleaut32.dll",
-    "shell32.dll", "wininet.dll", "urlmon.dll",   "crypt32.dll",  "bcrypt.dll", "winspool.drv"};
+    "psapi.dll",    "shlwapi.dll",  "comctl32.dll", "comdlg32.dll", "ole32.dll",
+    "oleaut32.dll", "shell32.dll",  "wininet.dll",  "urlmon.dll",   "crypt32.dll",
+    "bcrypt.dll",   "winspool.drv", "shcore.dll"};
 constexpr const char* Mark = ".loaded";
 
 // A program that was built beside these tests.
@@ -29,6 +34,19 @@ std::string Built(const std::string& name) {
     char path[MAX_PATH] = "";
     GetModuleFileNameA(nullptr, path, MAX_PATH);
     return (fs::path(path).parent_path() / name).string();
+}
+
+// Where the libraries of that name lie that a process has loaded.
+std::vector<std::string> PathsOf(const std::string& name, DWORD process) {
+    std::vector<std::string> paths;
+    const HANDLE modules = CreateToolhelp32Snapshot(TH32CS_SNAPMODULE, process);
+    MODULEENTRY32 module{};
+    module.dwSize = sizeof module;
+    for (BOOL more = Module32First(modules, &module); more; more = Module32Next(modules, &module)) {
+        if (lstrcmpiA(module.szModule, name.c_str()) == 0) paths.emplace_back(module.szExePath);
+    }
+    CloseHandle(modules);
+    return paths;
 }
 
 // Has Wine take a library that isn't its own where a program finds one, as Windows does by itself.
@@ -141,14 +159,19 @@ TEST_F(PlantedLibraries, TheFactsOfFilesComeFromTheSystemsVersionLibrary) {
     EXPECT_EQ(List().Row(RowOf("SampleIdle.exe"))[3], "Sample Works");
 }
 
+TEST_F(PlantedLibraries, TheCommonControlsAreThoseThatTheManifestNames) {
+    Start();
+    const std::vector<std::string> paths = PathsOf("comctl32.dll", Running().Id());
+    ASSERT_EQ(paths.size(), 1u);
+    EXPECT_NE(paths[0].find("\\winsxs\\"), std::string::npos) << paths[0];
+}
+
 TEST_F(PlantedLibraries, WhatIsLoadedByABareNameIsSearchedInTheSystemFolderAlone) {
-    constexpr int BesideItself = LOAD_WITH_ALTERED_SEARCH_PATH;
     const std::string name = std::string("\\") + PlantedName;
     Start(Elsewhere());
-    Plant(Elsewhere() + name);
-    EXPECT_EQ(AskInside(Running().Main(), LoadPlantedQuestion, BesideItself), IsNotFound);
     Plant(install_.Folder() + name);
-    EXPECT_EQ(AskInside(Running().Main(), LoadPlantedQuestion, 0), IsNotFound);
+    Plant(Elsewhere() + name);
+    EXPECT_EQ(AskInside(Running().Main(), LoadPlantedQuestion), IsNotFound);
     EXPECT_EQ(Loaded(), std::vector<std::string>());
 }
 

@@ -14,14 +14,14 @@ const std::string Held = "Software\\Velkarix\\Disabled\\";
 
 void PutPrograms(MemoryMachine& machine) {
     for (const char* name : {"MorVane.exe", "Tesselin.exe", "Quillate.exe", "Help\\index.html"}) {
-        machine.AddFile(std::string("C:\\Velkarix\\") + name);
+        machine.AddFile(std::string("C:\\Velkarix\\").append(name));
     }
     machine.AddFile("C:\\WINDOWS\\explorer.exe");
     machine.AddFile("C:\\remove.exe");
     machine.AddFolder("C:\\Reports");
     machine.AddFile("C:\\Velkarix\\MalActivex.scl").Content("{AC000001-52C4-4D18-9F3A}\r\n");
     machine.AddFile("C:\\Velkarix\\database.ini").Content("[Update]\r\nLast=***\r\n");
-    machine.AddFile("C:\\Velkarix\\SafeProcess.vkl").Content(std::string(Md5OfAbc) + "\r\n");
+    machine.AddFile("C:\\Velkarix\\SafeProcess.vkl").Content(std::string(Md5OfAbc).append("\r\n"));
     // One process more, whose file can't be deleted while it runs.
     machine.AddFile("C:\\Tools\\busy.exe").Content("busy").InUse();
     machine.AddProcess(400, "C:\\Tools\\busy.exe");
@@ -29,7 +29,7 @@ void PutPrograms(MemoryMachine& machine) {
 
 void PutBackups(MemoryMachine& machine) {
     for (const char* stem : {"1_1_1_1_1_1", "2_2_33_2_2_2"}) {
-        const std::string path = std::string("C:\\Velkarix\\Backup\\") + stem;
+        const std::string path = std::string("C:\\Velkarix\\Backup\\").append(stem);
         machine.AddFile(path + ".prc")
             .Content("C:\\Tools\\" + std::string(stem) + ".exe\x01" + "1/1/2004\r\n");
         machine.AddFile(path + ".bup").Content("old");

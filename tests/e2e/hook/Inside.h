@@ -13,8 +13,7 @@ inline constexpr const char* CutTextsQuestion = "Velkarix.Test.CutTexts";
 inline constexpr const char* EndAtChangeQuestion = "Velkarix.Test.EndAtChange";
 inline constexpr unsigned EndedAtChange = 77;  // the exit code of a program that was ended so
 
-// With the flags that it is loaded with: whether PlantedName can be, by its bare name; see
-// plant/Plant.cpp.
+// Whether PlantedName can be loaded by its bare name; see plant/Plant.cpp.
 inline constexpr const char* LoadPlantedQuestion = "Velkarix.Test.LoadPlanted";
 inline constexpr const char* PlantedName = "VelkarixPlant.dll";
 inline constexpr const char* IsLoaded = "loaded";

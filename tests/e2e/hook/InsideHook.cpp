@@ -166,8 +166,7 @@ extern "C" __declspec(dllexport) LRESULT CALLBACK
         if (sent->message == countMemory) Answer(CountMemory());
         if (sent->message == skipSaveDialog) Answer(SkipSaveDialog() ? "ready" : "");
         if (sent->message == loadPlanted) {
-            const auto flags = static_cast<DWORD>(sent->wParam);
-            Answer(LoadLibraryExA(PlantedName, nullptr, flags) != nullptr ? IsLoaded : IsNotFound);
+            Answer(LoadLibraryA(PlantedName) != nullptr ? IsLoaded : IsNotFound);
         }
         if (sent->message == endAtChange) {
             Answer(EndAtChange(static_cast<int>(sent->wParam)) ? "ready" : "");
