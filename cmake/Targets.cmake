@@ -23,8 +23,8 @@ if(VELKARIX_FUZZ)
     target_compile_definitions(velkarix_settings INTERFACE _GLIBCXX_ASSERTIONS)
 endif()
 if(WIN32)
-    # One file that needs no library of the compiler's beside it.
-    target_link_options(velkarix_settings INTERFACE -static -Wl,--gc-sections)
+    # One file that needs no library of the compiler's beside it, and in which nothing says when it was made.
+    target_link_options(velkarix_settings INTERFACE -static -Wl,--gc-sections -Wl,--no-insert-timestamp)
 endif()
 
 # The product sees only what Windows 95 with Internet Explorer 4 has; programs that test it see more.
