@@ -27,8 +27,8 @@ Window FirstWindow(DWORD processId, bool (*isWanted)(const Window&)) {
 
 }  // namespace
 
-Program::Program(const Install& install, const std::string& folder)
-    : process_(install.Path("Velkarix.exe"), folder.empty() ? install.Folder() : folder) {
+Program::Program(const std::string& installed, const std::string& folder)
+    : process_(installed + "\\Velkarix.exe", folder.empty() ? installed : folder) {
     process_.WaitIdle();
 }
 

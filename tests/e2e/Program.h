@@ -15,7 +15,10 @@ class Program {
   public:
     // Starts the program of that installation, with `folder` for the current one (empty: that of
     // the installation). It is closed with its object.
-    explicit Program(const Install& install, const std::string& folder = {});
+    explicit Program(const Install& install, const std::string& folder = {})
+        : Program(install.Folder(), folder) {}
+    // Likewise of what is installed in that folder.
+    explicit Program(const std::string& installed, const std::string& folder = {});
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
