@@ -1,6 +1,5 @@
 # Drawings and the icons that are made of them at build time.
 find_program(RSVG_CONVERT rsvg-convert REQUIRED)
-find_program(ICOTOOL icotool REQUIRED)
 
 # velkarix_drawings(<variable> <folder>): the drawings in a folder, without those for small sizes.
 function(velkarix_drawings variable folder)
@@ -18,6 +17,7 @@ function(velkarix_icon icon drawing)
     add_custom_command(OUTPUT ${icon}
         COMMAND ${PROJECT_SOURCE_DIR}/tools/make-icon ${drawing} ${icon} ${ARGN}
         DEPENDS ${drawing} ${small} ${PROJECT_SOURCE_DIR}/tools/make-icon
+            ${PROJECT_SOURCE_DIR}/resources/sixteen-colours.sed
         VERBATIM)
 endfunction()
 
