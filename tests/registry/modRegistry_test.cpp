@@ -144,16 +144,16 @@ TEST_F(modRegistryTest, TellsOfANameWithANulToTheEnd) {
 // The system would end the name at the NUL, and take another.
 TEST_F(modRegistryTest, ChangesNothingByANameWithANul) {
     machine.SetValue(User, "Software\\Other", "Value", "another's");
-    const std::string key("Software\\Other\0x", 16);
-    const std::string value("Value\0x", 7);
+    const std::string cutKey("Software\\Other\0x", 16);
+    const std::string cutValue("Value\0x", 7);
     const std::string before = machine.registry.TreeText(User, "");
-    EXPECT_FALSE(registry.DeleteKey(User, key, true));
-    EXPECT_FALSE(registry.DeleteValue(User, "Software\\Other", value, true));
-    EXPECT_FALSE(registry.DeleteValue(User, key, "Value", true));
-    EXPECT_FALSE(registry.DeleteSubKeys(User, key));
-    EXPECT_FALSE(registry.SetDwordValue(User, key, "Value", 1));
-    registry.SetDwordValue(User, "Software\\Other", value, 1);
-    EXPECT_FALSE(registry.CreateKey(User, key));
+    EXPECT_FALSE(registry.DeleteKey(User, cutKey, true));
+    EXPECT_FALSE(registry.DeleteValue(User, "Software\\Other", cutValue, true));
+    EXPECT_FALSE(registry.DeleteValue(User, cutKey, "Value", true));
+    EXPECT_FALSE(registry.DeleteSubKeys(User, cutKey));
+    EXPECT_FALSE(registry.SetDwordValue(User, cutKey, "Value", 1));
+    registry.SetDwordValue(User, "Software\\Other", cutValue, 1);
+    EXPECT_FALSE(registry.CreateKey(User, cutKey));
     EXPECT_EQ(machine.registry.TreeText(User, ""), before);
 }
 

@@ -22,6 +22,8 @@ void PutPrograms(MemoryMachine& machine) {
     machine.AddFile("C:\\Velkarix\\MalActivex.scl").Content("{AC000001-52C4-4D18-9F3A}\r\n");
     machine.AddFile("C:\\Velkarix\\database.ini").Content("[Update]\r\nLast=***\r\n");
     machine.AddFile("C:\\Velkarix\\SafeProcess.vkl").Content(std::string(Md5OfAbc).append("\r\n"));
+    // Something to tell at the foot of the main window.
+    machine.AddFile("C:\\Velkarix\\SusInstall.vkl").Content("held").Unreadable();
     // One process more, whose file can't be deleted while it runs.
     machine.AddFile("C:\\Tools\\busy.exe").Content("busy").InUse();
     machine.AddProcess(400, "C:\\Tools\\busy.exe");
