@@ -30,7 +30,9 @@ class PackageUninstall : public PackageTest {
         BringToFront(components);
         for (const std::string& part : parts) {
             const RECT label = tree.LabelArea(part);
+            const int unticked = tree.StatePicture(part);
             ClickAt({label.left - BoxBeforeLabel, (label.top + label.bottom) / 2});
+            ASSERT_TRUE(WaitUntil([&] { return tree.StatePicture(part) != unticked; })) << part;
         }
         ASSERT_TRUE(Press(components, IDOK));
     }

@@ -78,6 +78,12 @@ HTREEITEM TreeWindow::Find(const std::string& node) const {
     return nullptr;
 }
 
+int TreeWindow::StatePicture(const std::string& node) const {
+    const auto item = reinterpret_cast<WPARAM>(Find(node));
+    const LRESULT state = Send(TVM_GETITEMSTATE, item, TVIS_STATEIMAGEMASK);
+    return static_cast<int>((state & TVIS_STATEIMAGEMASK) >> 12);
+}
+
 RECT TreeWindow::LabelArea(const std::string& node) const {
     // The area's place names the item when it is asked for.
     const HTREEITEM item = Find(node);

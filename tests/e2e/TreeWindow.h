@@ -20,6 +20,8 @@ class TreeWindow : public Window {
     std::vector<std::string> Nodes() const;
     std::string Selected() const;  // empty when none is
     bool Expanded(const std::string& node) const;
+    // Which of its pictures of a node's state is shown, counted from 1; 0 for none.
+    int StatePicture(const std::string& node) const;
     // Of its text, on the screen.
     RECT LabelArea(const std::string& node) const;
 
