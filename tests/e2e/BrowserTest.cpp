@@ -37,9 +37,9 @@ ListWindow BrowserTest::Show(const BrowserList& view) {
 
 std::optional<int> BrowserTest::FindItem(const SampleItem& item, bool enabled) {
     const ListWindow list = Running().List(item.list.list);
-    const int count = list.RowCount();
-    for (int row = 0; row < count; ++row) {
-        if (list.Text(row, 0) == item.text &&
+    const std::vector<std::string> names = list.Column(0);
+    for (int row = 0; row < static_cast<int>(names.size()); ++row) {
+        if (names[static_cast<std::size_t>(row)] == item.text &&
             list.Text(row, item.list.enabledColumn) == (enabled ? "True" : "False") &&
             (item.scope.empty() || list.Text(row, item.list.scopeColumn) == item.scope)) {
             return row;

@@ -20,9 +20,47 @@ struct WithText {
     std::array<char, TextSize> text{};
 };
 
+// Reads the texts of a list's cells. It is made once for all of them: to get memory in another
+// process takes longer than to ask for a text.
+class CellReader {
+  public:
+    explicit CellReader(const ListWindow& list)
+        : list_(list), memory_(list.Handle(), sizeof item_) {
+        item_.structure.pszText =
+            static_cast<char*>(memory_.Address(offsetof(decltype(item_), text)));
+        item_.structure.cchTextMax = TextSize;
+    }
+    std::string Text(int row, int column) {
+        item_.structure.iSubItem = column;
+        item_.text.fill('\0');
+        memory_.Write(0, &item_, sizeof item_);
+        list_.Send(LVM_GETITEMTEXTA, static_cast<WPARAM>(row),
+                   reinterpret_cast<LPARAM>(memory_.Address()));
+        auto answer = item_;
+        memory_.Read(0, &answer, sizeof answer);
+        return answer.text.data();
+    }
+    RowTexts Row(int row, int columns) {
+        RowTexts texts;
+        for (int column = 0; column < columns; ++column) texts.push_back(Text(row, column));
+        return texts;
+    }
+
+  private:
+    const ListWindow& list_;
+    WithText<LVITEMA> item_;
+    const RemoteMemory memory_;
+};
+
 RECT ToScreen(HWND window, RECT area) {
     MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&area), 2);
     return area;
+}
+
+// The first row in that state (LVNI_SELECTED and the like).
+std::optional<int> FirstRow(const ListWindow& list, LPARAM state) {
+    const LRESULT row = list.Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), state);
+    return row < 0 ? std::nullopt : std::optional(static_cast<int>(row));
 }
 
 POINT Middle(const RECT& area) {
@@ -70,51 +108,37 @@ std::vector<int> ListWindow::ColumnWidths() const {
 }
 
 std::string ListWindow::Text(int row, int column) const {
-    WithText<LVITEMA> item;
-    const RemoteMemory memory(Handle(), sizeof item);
-    const std::size_t text = offsetof(decltype(item), text);
-    item.structure.iSubItem = column;
-    item.structure.pszText = static_cast<char*>(memory.Address(text));
-    item.structure.cchTextMax = TextSize;
-    memory.Write(0, &item, sizeof item);
-    Send(LVM_GETITEMTEXTA, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(memory.Address()));
-    memory.Read(0, &item, sizeof item);
-    return item.text.data();
+    return CellReader(*this).Text(row, column);
 }
 
 RowTexts ListWindow::Row(int row) const {
-    RowTexts texts;
-    const int columns = ColumnCount();
-    for (int column = 0; column < columns; ++column) texts.push_back(Text(row, column));
-    return texts;
+    return CellReader(*this).Row(row, ColumnCount());
 }
 
 std::vector<RowTexts> ListWindow::Rows() const {
     std::vector<RowTexts> rows;
+    CellReader cells(*this);
+    const int columns = ColumnCount();
     const int count = RowCount();
-    for (int row = 0; row < count; ++row) rows.push_back(Row(row));
+    for (int row = 0; row < count; ++row) rows.push_back(cells.Row(row, columns));
     return rows;
 }
 
 std::vector<std::string> ListWindow::Column(int column) const {
     std::vector<std::string> texts;
+    CellReader cells(*this);
     const int count = RowCount();
-    for (int row = 0; row < count; ++row) texts.push_back(Text(row, column));
+    for (int row = 0; row < count; ++row) texts.push_back(cells.Text(row, column));
     return texts;
 }
 
 std::optional<int> ListWindow::Find(const std::string& text) const {
+    CellReader cells(*this);
     const int count = RowCount();
     for (int row = 0; row < count; ++row) {
-        if (lstrcmpiA(Text(row, 0).c_str(), text.c_str()) == 0) return row;
+        if (lstrcmpiA(cells.Text(row, 0).c_str(), text.c_str()) == 0) return row;
     }
     return std::nullopt;
-}
-
-bool ListWindow::HasState(int row, UINT state) const {
-    return (static_cast<UINT>(
-                Send(LVM_GETITEMSTATE, static_cast<WPARAM>(row), static_cast<LPARAM>(state))) &
-            state) == state;
 }
 
 bool ListWindow::Checked(int row) const {
@@ -125,19 +149,11 @@ bool ListWindow::Checked(int row) const {
 }
 
 std::optional<int> ListWindow::Selected() const {
-    const int count = RowCount();
-    for (int row = 0; row < count; ++row) {
-        if (HasState(row, LVIS_SELECTED)) return row;
-    }
-    return std::nullopt;
+    return FirstRow(*this, LVNI_SELECTED);
 }
 
 std::optional<int> ListWindow::Focused() const {
-    const int count = RowCount();
-    for (int row = 0; row < count; ++row) {
-        if (HasState(row, LVIS_FOCUSED)) return row;
-    }
-    return std::nullopt;
+    return FirstRow(*this, LVNI_FOCUSED);
 }
 
 RECT ListWindow::Area(int row, int part) const {

@@ -47,7 +47,6 @@ class ListWindow : public Window {
 
   private:
     RECT Area(int row, int part) const;
-    bool HasState(int row, UINT state) const;
 };
 
 }  // namespace velkarix::e2e

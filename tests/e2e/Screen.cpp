@@ -49,19 +49,28 @@ bool SaveScreenshot(const std::string& name, DWORD processId) {
 int CountPixels(const RECT& area, const std::function<bool(COLORREF)>& counts) {
     const int width = area.right - area.left;
     const int height = area.bottom - area.top;
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = height;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
     const HDC screen = GetDC(nullptr);
     const HDC memory = CreateCompatibleDC(screen);
-    const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
-    const HGDIOBJ before = SelectObject(memory, bitmap);
-    BitBlt(memory, 0, 0, width, height, screen, area.left, area.top, SRCCOPY);
+    void* bits = nullptr;
+    const HBITMAP bitmap = CreateDIBSection(memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
     int count = 0;
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            if (counts(GetPixel(memory, x, y))) ++count;
-        }
+    if (bitmap != nullptr) {
+        const HGDIOBJ before = SelectObject(memory, bitmap);
+        BitBlt(memory, 0, 0, width, height, screen, area.left, area.top, SRCCOPY);
+        GdiFlush();
+        const auto* pixels = static_cast<const RGBQUAD*>(bits);
+        count = static_cast<int>(std::count_if(pixels, pixels + width * height, [&](RGBQUAD each) {
+            return counts(RGB(each.rgbRed, each.rgbGreen, each.rgbBlue));
+        }));
+        SelectObject(memory, before);
+        DeleteObject(bitmap);
     }
-    SelectObject(memory, before);
-    DeleteObject(bitmap);
     DeleteDC(memory);
     ReleaseDC(nullptr, screen);
     return count;

@@ -109,9 +109,9 @@ void StartupTest::ShowNode(const StartupNode& node) {
 
 std::optional<int> StartupTest::FindItem(const StartupItem& item, bool enabled) {
     const ListWindow list = Items();
-    const int count = list.RowCount();
-    for (int row = 0; row < count; ++row) {
-        if (list.Text(row, 0) == item.name &&
+    const std::vector<std::string> names = list.Column(0);
+    for (int row = 0; row < static_cast<int>(names.size()); ++row) {
+        if (names[static_cast<std::size_t>(row)] == item.name &&
             list.Text(row, EnabledColumn) == (enabled ? "True" : "False") &&
             list.Text(row, LocationColumn) == item.location) {
             return row;

@@ -14,11 +14,16 @@ BOOL CALLBACK Collect(HWND handle, LPARAM list) {
     return TRUE;
 }
 
+// That of the name that the program gives a window; 0 when it gives none.
+ATOM AtomOf(const Window& window) {
+    return static_cast<ATOM>(
+        reinterpret_cast<std::uintptr_t>(GetPropA(window.Handle(), "Velkarix.Name")));
+}
+
 }  // namespace
 
 std::string Window::Name() const {
-    const auto atom =
-        static_cast<ATOM>(reinterpret_cast<std::uintptr_t>(GetPropA(handle_, "Velkarix.Name")));
+    const ATOM atom = AtomOf(*this);
     char name[256] = "";
     if (atom != 0) GlobalGetAtomNameA(atom, name, sizeof name);
     return name;
@@ -49,8 +54,11 @@ std::vector<Window> Window::Children() const {
 }
 
 Window Window::Find(const std::string& name) const {
+    const ATOM atom = GlobalFindAtomA(name.c_str());
+    if (atom == 0) return {};
     for (const Window& child : Children()) {
-        if (child.Name() == name) return child;
+        // The atom compares without case.
+        if (AtomOf(child) == atom && child.Name() == name) return child;
     }
     return {};
 }
