@@ -3,6 +3,7 @@
 
 #include "Input.h"
 #include "ProgramTest.h"
+#include "Samples.h"
 #include "Screen.h"
 #include "Setup.h"
 #include "Wait.h"
@@ -12,14 +13,6 @@ namespace {
 
 class EverySystem : public ProgramTest {
   protected:
-    // The older family gives the names of files without their folders, so there the lists know the
-    // files by name.
-    EverySystem() {
-        if (!IsSystemOf95Family()) return;
-        install_.Write("SusProcess.vkl", install_.Read("SusProcess.vkl") + "samplesuspect.exe\r\n");
-        install_.Write("SystemProcess.vkl",
-                       install_.Read("SystemProcess.vkl") + "services.exe\r\n");
-    }
     bool IsRed(const std::string& name) {
         return CountPixels(List().LabelArea(RowOf(name)), IsReddish) > 0;
     }
@@ -32,13 +25,7 @@ TEST_F(EverySystem, TheProgramStartsAndEnds) {
 
 TEST_F(EverySystem, RunningProgramsAreListedByItsOwnMethod) {
     Start();
-    const RowTexts row = List().Row(RowOf("SampleIdle.exe"));
-    if (IsSystemOf95Family()) {
-        EXPECT_EQ(row, (RowTexts{"SampleIdle.exe", "", "", "", "", "", ""}));
-    } else {
-        EXPECT_EQ(row[3], "Sample Works");
-        EXPECT_EQ(row[6], "C:\\Samples\\");
-    }
+    EXPECT_EQ(List().Row(RowOf("SampleIdle.exe")), ListedRow(SamplePath("SampleIdle.exe")));
 }
 
 TEST_F(EverySystem, TheListsJudgeWhatRuns) {

@@ -18,6 +18,10 @@ class Popup : public ProgramTest {
         ClickAt(Inside(List().LabelArea(RowOf(name))), Mouse::Right);
     }
     Window Menu() { return WaitForPopup(Running().Id()); }
+    // The entry that needs the folder of the row's file.
+    static std::string OpenFolderEntry() {
+        return ListsFolders() ? "&Open Folder" : "(&Open Folder)";
+    }
 };
 
 TEST_F(Popup, ARightClickOffersAddingInFiltered) {
@@ -27,7 +31,7 @@ TEST_F(Popup, ARightClickOffersAddingInFiltered) {
         EntryCaptions(popup),
         (Entries{"&Add Checked to Safe list", "(&Remove checked from Safe list)", "-",
                  "&Kill Process", "&Delete Process", "-", "&View Information", "&Generate Report",
-                 "-", "&Open Folder", "&Refresh", "-", "&Search Google"}));
+                 "-", OpenFolderEntry(), "&Refresh", "-", "&Search Google"}));
     EXPECT_TRUE(ClosePopup(popup));
 }
 
@@ -53,22 +57,24 @@ TEST_F(Popup, ARightClickSelectsTheRowUnderIt) {
 
 TEST_F(Popup, AFileThatIsGoneGreysWhatNeedsIt) {
     // Copied, started and renamed away under the program's feet.
-    const std::string folder = install_.Path("Gone");
-    CreateDirectoryA(folder.c_str(), nullptr);
-    CopyFileA(SamplePath("SampleIdle.exe").c_str(), (folder + "\\Going.exe").c_str(), TRUE);
-    const Process going(folder + "\\Going.exe");
+    const std::string file = install_.Path("Going.exe");
+    CopyFileA(SamplePath("SampleIdle.exe").c_str(), file.c_str(), TRUE);
+    const Process going(file);
     ASSERT_TRUE(going);
     ASSERT_TRUE(Running().Press("cmdRefresh"));
-    ASSERT_TRUE(MoveFileA((folder + "\\Going.exe").c_str(), (folder + "\\Other.exe").c_str()));
+    SelectRow("Going.exe");
+    ASSERT_TRUE(Running().Control("cmdDelete").Enabled());
+    SelectRow("SampleIdle.exe");
+    ASSERT_TRUE(MoveFileA(file.c_str(), install_.Path("Other.exe").c_str()));
     RightClick("Going.exe");
     const Window popup = Menu();
     const Entries entries = EntryCaptions(popup);
     ASSERT_EQ(entries.size(), 13u);
     EXPECT_EQ(entries[4], "(&Delete Process)");
-    EXPECT_EQ(entries[9], "&Open Folder");
+    EXPECT_EQ(entries[9], OpenFolderEntry());
     EXPECT_TRUE(ClosePopup(popup));
     EXPECT_FALSE(Running().Control("cmdDelete").Enabled());
-    EXPECT_TRUE(Running().Control("cmdOpen").Enabled());
+    EXPECT_EQ(Running().Control("cmdOpen").Enabled(), ListsFolders());
 }
 
 TEST_F(Popup, TheMenuKeyOpensItBesideTheRow) {

@@ -32,18 +32,15 @@ TEST_F(ProcessList, TheColumnsHaveTheirCaptions) {
 }
 
 TEST_F(ProcessList, ARowShowsTheFactsOfTheFile) {
-    const RowTexts facts = ShownFacts(SamplePath("SampleIdle.exe"));
-    ASSERT_EQ(facts[4], "Harmless idle program");
-    RowTexts row = {"SampleIdle.exe"};
-    row.insert(row.end(), facts.begin(), facts.end());
-    row.emplace_back("C:\\Samples\\");
+    const std::string path = SamplePath("SampleIdle.exe");
+    ASSERT_EQ(ShownFacts(path)[4], "Harmless idle program");
     Start();
-    EXPECT_EQ(List().Row(RowOf("SampleIdle.exe")), row);
+    EXPECT_EQ(List().Row(RowOf("SampleIdle.exe")), ListedRow(path));
 }
 
 TEST_F(ProcessList, TheProgramListsItself) {
     Start();
-    EXPECT_EQ(List().Text(RowOf("Velkarix.exe"), 6), install_.Folder() + "\\");
+    EXPECT_EQ(List().Text(RowOf("Velkarix.exe"), 6), ListedFolder(install_.Folder() + "\\"));
 }
 
 TEST_F(ProcessList, TwoProcessesOfOneFileAreTwoRows) {
@@ -122,7 +119,7 @@ TEST_F(ProcessList, RefreshShowsWhatHasStartedAndForgetsWhatHasEnded) {
     ASSERT_TRUE(passing);
     EXPECT_FALSE(List().Find("Passing.exe"));
     ASSERT_TRUE(Running().Press("cmdRefresh"));
-    EXPECT_EQ(List().Text(RowOf("Passing.exe"), 6), install_.Folder() + "\\");
+    EXPECT_EQ(List().Text(RowOf("Passing.exe"), 6), ListedFolder(install_.Folder() + "\\"));
 
     passing.End();
     ASSERT_TRUE(List().Find("Passing.exe"));

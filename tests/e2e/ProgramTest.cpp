@@ -15,11 +15,14 @@ std::string RecorderLog() {
     return SamplePath("SampleRecorder.log");
 }
 
+constexpr const char* RunningSampleNames[] = {"SampleIdle.exe", "SampleSuspect.exe",
+                                              "SampleSafe.exe"};
+
 // The sample programs run as long as the tests do.
 class RunningSamples : public testing::Environment {
   public:
     void SetUp() override {
-        for (const char* name : {"SampleIdle.exe", "SampleSuspect.exe", "SampleSafe.exe"}) {
+        for (const char* name : RunningSampleNames) {
             samples_.emplace_back(SamplePath(name));
             ASSERT_TRUE(samples_.back()) << name << " doesn't start";
         }
@@ -40,7 +43,15 @@ const testing::Environment* const runningSamples =
 
 ProgramTest::ProgramTest(const std::string& title) : install_(title) {
     install_.Write("Settings.ini", "[Main]\r\nFirstRun=1\r\n[Update]\r\nCheckUpdate=0\r\n");
+    if (!ListsFolders()) StandInForFolders();
     ForgetOpened();
+}
+
+void ProgramTest::StandInForFolders() const {
+    for (const char* name : RunningSampleNames) {
+        CopyFileA(SamplePath(name).c_str(), install_.Path(name).c_str(), TRUE);
+    }
+    install_.Write("SystemProcess.vkl", install_.Read("SystemProcess.vkl") + "services.exe\r\n");
 }
 
 void ProgramTest::ForgetOpened() {

@@ -45,6 +45,10 @@ class ProgramTest : public testing::Test {
     Install install_;
 
   private:
+    // Where the list of processes tells names alone, the program finds the files of that name that
+    // lie beside it: so the samples do. What is the system's own is known by its name.
+    void StandInForFolders() const;
+
     std::optional<Program> program_;
     bool aside_ = false;
 };

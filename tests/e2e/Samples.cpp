@@ -132,6 +132,18 @@ RowTexts FileVersionFacts(const std::string& path) {
     return facts;
 }
 
+RowTexts ListedRow(const std::string& path) {
+    const std::size_t name = path.rfind('\\') + 1;
+    RowTexts row = {path.substr(name)};
+    for (const std::string& fact : ShownFacts(path)) row.push_back(fact);
+    row.push_back(ListedFolder(path.substr(0, name)));
+    return row;
+}
+
+std::string ListedFolder(const std::string& folder) {
+    return ListsFolders() ? folder : "";
+}
+
 std::string SearchedSamplePath() {
     std::array<char, MAX_PATH> folder{};
     GetWindowsDirectoryA(folder.data(), MAX_PATH);

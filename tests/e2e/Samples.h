@@ -17,6 +17,11 @@ RowTexts VersionFacts(const std::string& path);
 // The same of any file: of one that isn't a sample, as the system tells them.
 RowTexts FileVersionFacts(const std::string& path);
 
+// The row of a running program in the list of processes.
+RowTexts ListedRow(const std::string& path);
+// A folder as that list tells it.
+std::string ListedFolder(const std::string& folder);
+
 // The full path of the program that is found along the search path.
 std::string SearchedSamplePath();
 

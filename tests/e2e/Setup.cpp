@@ -28,6 +28,10 @@ bool IsSystemOf95Family() {
     return system == "win95" || system == "win98" || system == "winme";
 }
 
+bool ListsFolders() {
+    return !IsSystemOf95Family();
+}
+
 std::string SamplePath(const std::string& name) {
     return "C:\\Samples\\" + name;
 }

@@ -13,6 +13,13 @@ std::string PreparedFolder();
 std::string SystemUnderTest();
 // Whether that system has no PSAPI, so that the program lists processes by a snapshot.
 bool IsSystemOf95Family();
+// Whether the list of processes tells their folders: Wine's snapshot, unlike the 95 family's own,
+// gives the names of the files alone.
+bool ListsFolders();
+// Why a test that needs them is skipped.
+inline constexpr const char* NoFolders =
+    "Wine's snapshot of the processes gives names without folders, so no file can be found by its "
+    "full path.";
 
 // The full path of a sample program ("SampleIdle.exe") on the sample machine.
 std::string SamplePath(const std::string& name);
