@@ -9,6 +9,7 @@
 #include "Input.h"
 #include "ProgramTest.h"
 #include "RegistryTree.h"
+#include "Setup.h"
 #include "TabWindow.h"
 #include "Wait.h"
 
@@ -187,6 +188,16 @@ TEST_F(EverySystemBrowserSettings, TypedAddressesAreApplied) {
     EXPECT_FALSE(ReadValue(HKEY_CURRENT_USER, MainKey, "Default_Page_URL"));
     EXPECT_EQ(ReadValue(HKEY_CURRENT_USER, MainKey, "Do404Search"),
               (RegistryValue{REG_BINARY, {1, 0, 0, 0}}));
+}
+
+// The program deletes that key by one call, which takes the keys below along or is refused.
+TEST_F(EverySystemBrowserSettings, TheUsersSearchSettingsWithKeysBelowGoOnTheOlderFamilyAlone) {
+    WriteValue(HKEY_CURRENT_USER, SearchKey + std::string("\\Below"), "Value", Text("kept"));
+    const std::optional<RegistryTree> whole = ReadTree(HKEY_CURRENT_USER, SearchKey);
+    Open("cmdURLs");
+    TypeInto("txtStartPage", "http://typed.example");
+    ASSERT_TRUE(Running().Press("cmdApply"));
+    EXPECT_EQ(ReadTree(HKEY_CURRENT_USER, SearchKey), IsSystemOf95Family() ? std::nullopt : whole);
 }
 
 TEST_F(EverySystemBrowserSettings, StockAddressesAreAppliedFromTheirButtons) {

@@ -1,4 +1,5 @@
 // A program's file that is in use and can't be deleted: it goes when the system starts next.
+#include "Setup.h"
 #include "TargetTest.h"
 #include "Wait.h"
 
@@ -114,9 +115,19 @@ TEST_F(EverySystemDeleteAtNextStart, TheOlderFamilyHasItNamedInWinInit) {
     EXPECT_EQ(BackupFiles().size(), 2u);
 }
 
+// Without this test telling the program which family it runs on.
+TEST_F(EverySystemDeleteAtNextStart, ItIsDoneAsTheSystemKnowsIt) {
+    DeleteWhileInUse(IDYES);
+    const bool pending = PendingFiles().find(ShortPath(install_.Path(Target))) != std::string::npos;
+    const std::string named = "[Rename]\r\nNUL=" + NamedPath() + "\r\n";
+    EXPECT_EQ(pending, !IsSystemOf95Family()) << PendingFiles();
+    EXPECT_EQ(ReadWholeFile(WinInit()), IsSystemOf95Family() ? named : "");
+}
+
 class DeleteAtNextStart : public EverySystemDeleteAtNextStart {};
 
 TEST_F(DeleteAtNextStart, TheOlderFamilysSystemDeletesTheFile) {
+    if (!ListsFolders()) GTEST_SKIP() << NoFolders;
     const FamilyVariable family("Windows_98");
     DeleteWhileInUse(IDYES);
     ASSERT_TRUE(StartTheSystemAnew());

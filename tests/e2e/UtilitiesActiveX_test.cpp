@@ -1,5 +1,6 @@
 // The protection from ActiveX controls, on the registry that the browser reads.
 #include "ActiveXKeys.h"
+#include "Setup.h"
 #include "TargetTest.h"
 #include "UtilitiesTest.h"
 
@@ -20,12 +21,14 @@ class UtilitiesActiveX : protected ActiveXKeys, public UtilitiesTest {
         ClickOn("cmdActiveXRemove");
         ExpectMessage(Removed, Icon::Information);
     }
-    void ExpectNotDeleted(const std::string& name) {
+    void ExpectNotDeleted(const std::string& name, DWORD code = ERROR_FILE_NOT_FOUND) {
         ExpectMessage("Following Key Could not be deleted: \r\n" + KeyOf(name) + "\r\n\r\n" +
-                          SystemErrorText(ERROR_FILE_NOT_FOUND),
+                          SystemErrorText(code),
                       Icon::Critical);
     }
 };
+
+class EverySystemUtilitiesActiveX : public UtilitiesActiveX {};
 
 TEST_F(UtilitiesActiveX, EachListedControlGetsTheFlag) {
     const std::vector<std::string> names = ListedControls(install_);
@@ -84,6 +87,20 @@ TEST_F(UtilitiesActiveX, TakingBackWhatIsNotThereIsToldForEachLine) {
     for (const std::string& name : ListedControls(install_)) ExpectNotDeleted(name);
     ExpectMessage(Removed, Icon::Information);
     EXPECT_EQ(ReadKeys(), KeysBefore());
+}
+
+// A control's key goes by one call, which takes the keys below along or is refused.
+TEST_F(EverySystemUtilitiesActiveX, AControlWithKeysBelowGoesOnTheOlderFamilyAndIsToldOnTheOther) {
+    const std::string listed = ListedControls(install_).front();
+    OpenUtilities();
+    Protect();
+    WriteValue(HKEY_LOCAL_MACHINE, KeyOf(listed) + "\\Below", "Value", {REG_SZ, {'x', 0}});
+    RegistryTree expected = KeysBefore();
+    if (!IsSystemOf95Family()) expected.keys[listed] = ReadKeys().keys.at(listed);
+    ClickOn("cmdActiveXRemove");
+    if (!IsSystemOf95Family()) ExpectNotDeleted(listed, ERROR_ACCESS_DENIED);
+    ExpectMessage(Removed, Icon::Information);
+    EXPECT_EQ(ReadKeys(), expected);
 }
 
 TEST_F(UtilitiesActiveX, WithoutAListNothingIsChanged) {
