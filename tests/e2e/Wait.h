@@ -5,7 +5,7 @@
 
 namespace velkarix::e2e {
 
-constexpr DWORD Patience = 10000;  // milliseconds; only a failing test ever uses it up
+constexpr DWORD Patience = 30000;  // milliseconds; only a failing test ever uses it up
 constexpr DWORD PollInterval = 5;
 
 // True as soon as `condition()` is; false when it never was.
