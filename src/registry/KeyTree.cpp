@@ -13,20 +13,26 @@ ErrorCode MissingIsCantWrite(ErrorCode code) {
     return code == error::FileNotFound ? error::CantWrite : code;
 }
 
-ErrorCode ContainsValues(Registry& registry, KeyHandle whole, KeyHandle part) {
+enum class Compared { NamesAndData, Names };
+
+ErrorCode ContainsValues(Registry& registry, KeyHandle whole, KeyHandle part, Compared compared) {
     std::vector<RawValue> values;
     ErrorCode result = ListValues(registry, part, values);
     for (const RawValue& value : values) {
         if (result != error::Success) break;
         RawValue standing;
         result = MissingIsCantWrite(QueryRawValue(registry, whole, value.name, standing));
-        if (result == error::Success && !StandsAs(standing, value)) result = error::CantWrite;
+        if (result == error::Success && compared == Compared::NamesAndData &&
+            !StandsAs(standing, value)) {
+            result = error::CantWrite;
+        }
     }
     return result;
 }
 
 ErrorCode ContainsLevel(Registry& registry, KeyHandle wholeParent, const std::string& whole,
-                        KeyHandle partParent, const std::string& part, int level) {
+                        KeyHandle partParent, const std::string& part, Compared compared,
+                        int level) {
     if (level > DeepestKeyLevel) return error::BadKey;
     OpenKey partKey(registry);
     ErrorCode result = partKey.Open(partParent, part, KeyAccess::Read);
@@ -34,14 +40,14 @@ ErrorCode ContainsLevel(Registry& registry, KeyHandle wholeParent, const std::st
     OpenKey wholeKey(registry);
     result = MissingIsCantWrite(wholeKey.Open(wholeParent, whole, KeyAccess::Read));
     if (result == error::Success) {
-        result = ContainsValues(registry, wholeKey.Handle(), partKey.Handle());
+        result = ContainsValues(registry, wholeKey.Handle(), partKey.Handle(), compared);
     }
     std::vector<std::string> names;
     if (result == error::Success) result = ListSubKeys(registry, partKey.Handle(), names);
     for (const std::string& name : names) {
         if (result != error::Success) break;
-        result =
-            ContainsLevel(registry, wholeKey.Handle(), name, partKey.Handle(), name, level + 1);
+        result = ContainsLevel(registry, wholeKey.Handle(), name, partKey.Handle(), name, compared,
+                               level + 1);
     }
     return result;
 }
@@ -73,7 +79,13 @@ ErrorCode WriteRawValue(Registry& registry, Hive hive, const std::string& key,
 ErrorCode ContainsTree(Registry& registry, Hive hive, const std::string& whole,
                        const std::string& part) {
     const KeyHandle parent = Registry::HandleOf(hive);
-    return ContainsLevel(registry, parent, whole, parent, part, 0);
+    return ContainsLevel(registry, parent, whole, parent, part, Compared::NamesAndData, 0);
+}
+
+ErrorCode ContainsNames(Registry& registry, Hive hive, const std::string& whole,
+                        const std::string& part) {
+    const KeyHandle parent = Registry::HandleOf(hive);
+    return ContainsLevel(registry, parent, whole, parent, part, Compared::Names, 0);
 }
 
 }  // namespace velkarix

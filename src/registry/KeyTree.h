@@ -22,5 +22,8 @@ ErrorCode WriteRawValue(Registry& registry, Hive hive, const std::string& key,
 // Success; CantWrite where it doesn't; the code of what couldn't be read. `whole` may hold more.
 ErrorCode ContainsTree(Registry& registry, Hive hive, const std::string& whole,
                        const std::string& part);
+// The same, whatever the values hold.
+ErrorCode ContainsNames(Registry& registry, Hive hive, const std::string& whole,
+                        const std::string& part);
 
 }  // namespace velkarix

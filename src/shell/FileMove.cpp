@@ -13,17 +13,17 @@ namespace {
 ErrorCode CopyWhole(FileSystem& files, const std::string& source, const std::string& destination) {
     const ErrorCode copied = files.CopyFileA(source, destination);
     if (copied == error::Success && SameContent(files, source, destination)) return copied;
+    // Of a file that somebody else has taken away meanwhile the copy is all that is left.
+    if (copied == error::Success && !IsTaken(files, source)) return error::FileNotFound;
     files.DeleteFileA(destination);
     return copied == error::Success ? error::WriteFault : copied;
 }
 
-// Asked in two ways, since one that fails says that nothing is there, and that would be written
-// over.
+}  // namespace
+
 bool IsTaken(FileSystem& files, const std::string& path) {
     return PathExists(files, path) || FileLength(files, path).has_value();
 }
-
-}  // namespace
 
 ErrorCode KeepFile(Application& application, const std::string& path) {
     FileSystem& files = application.machine.files;

@@ -7,6 +7,10 @@
 
 namespace velkarix {
 
+// Whether something is at the path. Asked in two ways, since one that fails says that nothing is
+// there, and that would be written over.
+bool IsTaken(FileSystem& files, const std::string& path);
+
 // Each gives the code of what failed, or Success.
 
 // Keeps a copy of the file in the backup folder, under the stamp of this moment, an underscore and

@@ -19,6 +19,14 @@ bool KeepWhatIsOverwritten(Application& application, const std::string& listName
     return KeepOrTell(application, listName, "backupItem", exported, sections);
 }
 
+// Whether the copy holds what the source has no more: somebody else has taken it away meanwhile,
+// and it stands nowhere else.
+bool HoldsMore(Registry& raw, Hive hive, const std::string& copy, const std::string& source) {
+    // What can't be reached by its name is copied under another one.
+    return ContainsNames(raw, hive, source, source) != error::InvalidData &&
+           ContainsNames(raw, hive, source, copy) == error::CantWrite;
+}
+
 }  // namespace
 
 void RelocateKey(Application& application, const std::string& listName, Hive hive,
@@ -39,7 +47,7 @@ void RelocateKey(Application& application, const std::string& listName, Hive hiv
         return;
     }
     // What a failed copy leaves where there was nothing would be listed as an item.
-    if (!destinationWasThere) {
+    if (!destinationWasThere && !HoldsMore(raw, hive, destination, source)) {
         application.registry.DeleteSubKeys(hive, destination);
         application.registry.DeleteKey(hive, destination, true);
     }

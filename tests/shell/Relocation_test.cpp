@@ -182,6 +182,18 @@ TEST_F(RelocateKeyTest, MovesATextOfNoBytesOnWindows95WithoutTheShellsCall) {
     EXPECT_TRUE(desktop.messages.empty());
 }
 
+// The copy is all that is left of it, and the list shows it.
+TEST_F(RelocateKeyTest, LeavesTheCopyOfAnItemThatSomebodyTakesAwayMeanwhile) {
+    for (const std::string below : {"", "\\Sub\\Deep"}) {
+        machine.registry.RemoveKey(User, held);
+        AddItem(live);
+        const std::string item = TreeOf(live);
+        machine.registry.afterCopy = [&] { machine.registry.RemoveKey(User, live + below); };
+        Disable();
+        EXPECT_EQ(TreeOf(held), item) << below;
+    }
+}
+
 // The system copies what is named by the part before the NUL, or under that name.
 TEST_F(RelocateKeyTest, KeepsTheItemWhereSomethingInItCantBeReachedByItsName) {
     const std::vector<std::function<void()>> additions = {
