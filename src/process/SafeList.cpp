@@ -4,13 +4,14 @@
 
 #include "base/Text.h"
 #include "shell/TextFile.h"
+#include "shell/TextReplacement.h"
 
 namespace velkarix {
 
 bool LoadSafeList(FileSystem& files, SafeProcesses& list, const std::string& fileName,
                   ErrorCode* failure) {
     std::string text;
-    const ErrorCode result = ReadTextFile(files, fileName, text);
+    const ErrorCode result = ReadReplacedTextFile(files, fileName, text);
     list = SplitLines(result == error::Success ? text : std::string());
     if (result == error::Success || result == error::FileNotFound) return true;
     if (failure != nullptr) *failure = result;
@@ -35,7 +36,7 @@ ErrorCode SaveSafeList(FileSystem& files, const SafeProcesses& list, const std::
         if (item.empty() && emptyItems == EmptyItems::Skip) continue;
         text.append(item).append(LineBreak);
     }
-    return WriteTextFile(files, fileName, text);
+    return ReplaceTextFile(files, fileName, text);
 }
 
 }  // namespace velkarix

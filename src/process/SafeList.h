@@ -20,7 +20,8 @@ bool IsInSafeList(const SafeProcesses& list, const std::string& key);
 // Removes the first item equal to `key`. False when there is none.
 bool RemoveFromSafeList(SafeProcesses& list, const std::string& key);
 
-// Replaces the file; the code of what failed, or Success.
+// Replaces the file, of which the old or the new text stands wherever that is cut short; the code
+// of what failed, or Success.
 enum class EmptyItems { Write, Skip };
 ErrorCode SaveSafeList(FileSystem& files, const SafeProcesses& list, const std::string& fileName,
                        EmptyItems emptyItems);
