@@ -3,7 +3,6 @@
 #include <cstdint>
 
 #include "base/Text.h"
-#include "shell/FilePaths.h"
 #include "shell/TextFile.h"
 
 namespace velkarix {
@@ -33,20 +32,28 @@ void clsDeleteonReboot::NameInWinInit(const std::string& path) {
     constexpr std::size_t MostOfTheFile = 32768;  // bytes; the system reads no more of it either
 
     FileSystem& files = application_.machine.files;
-    const std::string winInit =
-        application_.machine.system.GetEnvironmentVariableA("WinDir") + "\\WinInit.ini";
+    const std::string windows = application_.machine.system.GetEnvironmentVariableA("WinDir");
+    if (windows.empty()) return;
+    const std::string winInit = windows + "\\WinInit.ini";
     const std::string line = "NUL=" + ShortPath(path) + std::string(LineBreak);
-    if (!PathExists(files, winInit)) {
+    std::string present;
+    const ErrorCode read = ReadTextFile(files, winInit, present);
+    if (read == error::FileNotFound) {
         WriteTextFile(files, winInit, "[Rename]" + std::string(LineBreak) + line);
         return;
     }
-    const auto present = ReadTextFile(files, winInit);
     // What can't be read must not be replaced: it may name other programs' files.
-    if (!present) return;
-    std::string text = TrimAtNull(std::string_view(*present).substr(0, MostOfTheFile));
+    if (read != error::Success) return;
+    std::string text = TrimAtNull(std::string_view(present).substr(0, MostOfTheFile));
+    const std::size_t kept = text.size();
     if (!text.ends_with(LineBreak)) text.append(LineBreak);
-    files.DeleteFileA(winInit);
-    WriteTextFile(files, winInit, text + line);
+    text += line;
+    if (kept == present.size()) {
+        // The others' lines stay where they are, whatever becomes of this one.
+        AppendTextFile(files, winInit, std::string_view(text).substr(kept));
+    } else {
+        WriteTextFile(files, winInit, text);
+    }
 }
 
 void DeleteOnReboot(Application& application, const std::string& path) {

@@ -85,6 +85,30 @@ TEST_F(DeleteOnRebootTest, KeepsTheFileUpToANulAndItsFirst32768Bytes) {
     EXPECT_EQ(Text(), std::string(32768, 'x').append("\r\n").append(line));
 }
 
+TEST_F(DeleteOnRebootTest, LeavesTheLinesOfOthersWhereTheDiskIsFull) {
+    const std::string others = "[Rename]\r\nNUL=C:\\OLD.EXE\r\n";
+    program.machine.AddFile(WinInit).Content(others);
+    program.machine.disk.SetFreeBytes(0);
+    Delete();
+    EXPECT_EQ(Text(), others);
+    for (const Call& call : program.machine.Journal().Calls()) EXPECT_NE(call.name, "DeleteFileA");
+}
+
+TEST_F(DeleteOnRebootTest, WritesNothingOverAFileThatSeemsToBeMissing) {
+    const std::string others = "[Rename]\r\nNUL=C:\\OLD.EXE\r\n";
+    program.machine.AddFile(WinInit).Content(others);
+    program.machine.FailNext("PathFileExistsA");
+    Delete();
+    EXPECT_EQ(Text(), others + line);
+}
+
+TEST_F(DeleteOnRebootTest, WritesNothingWhereTheWindowsFolderIsNotKnown) {
+    program.machine.FailNext("GetEnvironmentVariableA");
+    program.machine.system.SetVariable("WinDir", "");
+    Delete();
+    EXPECT_FALSE(program.machine.disk.Exists("C:\\WinInit.ini"));
+}
+
 TEST_F(DeleteOnRebootTest, LeavesAFileAloneThatItCanNotRead) {
     program.machine.AddFile(WinInit).Content("a=b\r\n");
     program.machine.FailNext("ReadFile");
