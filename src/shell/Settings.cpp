@@ -102,7 +102,10 @@ std::string_view WithoutLeadingBlanks(std::string_view text) {
 
 std::string Settings::InstallFolder() {
     const std::string program = system_.GetModuleFileNameA();
-    return program.substr(0, std::min(program.rfind('\\'), program.size()));
+    if (!program.empty()) {
+        installFolder_ = program.substr(0, std::min(program.rfind('\\'), program.size()));
+    }
+    return installFolder_;
 }
 
 std::string Settings::FileOrDefault(const std::string& file) {

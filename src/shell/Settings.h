@@ -15,7 +15,8 @@ class Settings {
     explicit Settings(const Machine& machine)
         : profileFiles_(machine.profileFiles), system_(machine.system) {}
 
-    // The folder that the program runs from, without a backslash at its end.
+    // The folder that the program runs from, without a backslash at its end; as it was told before
+    // where the system can't tell it, since files would come to lie in a root folder otherwise.
     std::string InstallFolder();
 
     // An empty `file` is Settings.ini in the InstallFolder, any other is a full path.
@@ -32,6 +33,7 @@ class Settings {
 
     ProfileFiles& profileFiles_;
     SystemFacts& system_;
+    std::string installFolder_;
 };
 
 // The number at the start of a text, behind blanks: a sign, digits with a decimal point, an

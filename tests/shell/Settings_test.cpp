@@ -31,6 +31,14 @@ TEST_F(SettingsTest, InstallFolderTakesLongPathsAndAnyLetters) {
     EXPECT_EQ(settings.InstallFolder(), folder);
 }
 
+TEST_F(SettingsTest, InstallFolderIsTheOneToldBeforeWhereTheSystemCanNotTellIt) {
+    machine.FailNext("GetModuleFileNameA");
+    EXPECT_EQ(settings.InstallFolder(), "");
+    EXPECT_EQ(settings.InstallFolder(), "C:\\Velkarix");
+    machine.FailNext("GetModuleFileNameA");
+    EXPECT_EQ(settings.InstallFolder(), "C:\\Velkarix");
+}
+
 TEST_F(SettingsTest, WhatIsWrittenIsReadAgain) {
     settings.WriteIni("Main", "SusColor", "128");
     EXPECT_EQ(settings.ReadIni("Main", "SusColor", "255"), "128");
