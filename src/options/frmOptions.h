@@ -33,6 +33,9 @@ class frmOptions : public Form {
     void AddBackupRow(const std::string& path, const std::string& date, const std::string& prcName);
     std::string BackupFile(const std::string& name);
     bool IsBackup(const std::string& path);
+    // Keeps what stands at `path`, unless `copy` is the same. The code of why it can't be kept.
+    ErrorCode KeepPresent(const std::string& path, const std::string& copy);
+    void TellNotRestored(ErrorCode code);
     void DeleteSet(const std::string& first, const std::string& second);
 
     Application& application_;

@@ -7,6 +7,7 @@
 #include "options/frmOptions.h"
 #include "shell/BackupSet.h"
 #include "shell/FileCompare.h"
+#include "shell/FileMove.h"
 #include "shell/FilePaths.h"
 #include "shell/FolderListing.h"
 #include "shell/ListServices.h"
@@ -73,19 +74,16 @@ void frmOptions::cmdrestore_Click() {
         application_.Tell(MessageIcon::Information, "File Could not be restored");
         return;
     }
-    if (PathExists(files, full) && files.DeleteFileA(full) != error::Success) {
+    const std::string copy = BackupFile(CopyName(row->Key()));
+    const ErrorCode kept = KeepPresent(full, copy);
+    if (kept != error::Success) return TellNotRestored(kept);
+    if (IsTaken(files, full) && files.DeleteFileA(full) != error::Success) {
         application_.Tell(MessageIcon::Critical,
                           "There is already an application running with same name and path.");
         return;
     }
-    const std::string copy = BackupFile(CopyName(row->Key()));
     const ErrorCode copied = files.CopyFileA(copy, full);
-    if (copied != error::Success) {
-        application_.Tell(
-            MessageIcon::Critical,
-            "Error Occurred cmdRestore: " + application_.registry.GetSystemErrorText(copied));
-        return;
-    }
+    if (copied != error::Success) return TellNotRestored(copied);
     // A file that came out short isn't restored, and its backup must stay.
     if (!SameContent(files, copy, full)) {
         application_.Tell(MessageIcon::Information, "File Could not be restored");
@@ -95,6 +93,18 @@ void frmOptions::cmdrestore_Click() {
     if (!chkDelete_.Checked()) return;
     DeleteSet(copy, BackupFile(row->Key()));
     LoadBackupList();
+}
+
+// What the restored file takes the place of isn't asked about, and may be all that there is of it.
+ErrorCode frmOptions::KeepPresent(const std::string& path, const std::string& copy) {
+    FileSystem& files = application_.machine.files;
+    if (!IsTaken(files, path) || SameContent(files, path, copy)) return error::Success;
+    return KeepFile(application_, path);
+}
+
+void frmOptions::TellNotRestored(ErrorCode code) {
+    application_.Tell(MessageIcon::Critical, "Error Occurred cmdRestore: " +
+                                                 application_.registry.GetSystemErrorText(code));
 }
 
 void frmOptions::cmdDelete_Click() {

@@ -191,6 +191,30 @@ TEST_F(OptionsPageTest, ReplacesAPresentFileWithoutAQuestion) {
     EXPECT_EQ(Content(Path), "the program");
 }
 
+TEST_F(OptionsPageTest, KeepsThePresentFileThatItReplaces) {
+    program.machine.AddFile(Path).Content("another");
+    AddBackup("1", record);
+    Open();
+    SelectFirst();
+    Click("cmdrestore");
+    EXPECT_EQ(Content("C:\\Velkarix\\Backup\\6_1_153_12_0_0_bad.exe"), "another");
+    SelectFirst();
+    Click("cmdrestore");  // what stands there now is in the backup
+    EXPECT_EQ(program.machine.Journal().CountOf("CopyFileA"), 3u);
+}
+
+TEST_F(OptionsPageTest, ReplacesNothingThatItCanNotKeep) {
+    program.machine.AddFile(Path).Content("another");
+    AddBackup("1", record);
+    Open();
+    SelectFirst();
+    program.machine.FailNext("CopyFileA");
+    Click("cmdrestore");
+    EXPECT_EQ(Content(Path), "another");
+    EXPECT_EQ(Told(), (RowTexts{"Error Occurred cmdRestore: Access is denied.\r\n"}));
+    EXPECT_EQ(program.desktop.messages[0].icon, MessageIcon::Critical);
+}
+
 TEST_F(OptionsPageTest, StopsWhenThePresentFileIsInUse) {
     program.machine.AddFile(Path).Content("another").InUse();
     AddBackup("1", record);
@@ -353,41 +377,6 @@ TEST_F(OptionsPageTest, GivesItsThreeButtonsTheirLook) {
         EXPECT_EQ(program.Get<Button>("frmOptions", button).SkinElement(), "button") << button;
     }
 }
-
-// Every call of a restore fails once, or from there on: the backup's bytes are never lost.
-constexpr std::size_t NoFault = SIZE_MAX;
-
-class RestoreFaults : public testing::TestWithParam<bool> {
-  protected:
-    static std::size_t RestoreWithFault(std::size_t number, bool allFromThereOn) {
-        TestProgram program;
-        program.AddInstalledFile("Settings.ini").Content("[Main]\r\nDelete=1\r\n");
-        program.AddInstalledFile("Backup\\1.prc").Content(std::string(Path) + "\x01" + "d\r\n");
-        program.AddInstalledFile("Backup\\1.bup").Content("the program");
-        program.machine.AddFile(Path).Content("another");
-        program.Start();
-        program.Get<Button>("frmMain", "cmdOptions").Raise("Click");
-        auto& list = program.Get<ListView>("frmOptions", "lstvBackup");
-        list.UserSelect(&list.Row(0));
-        CallJournal& journal = program.machine.Journal();
-        journal.Clear();
-        journal.FailCall(number, error::AccessDenied, allFromThereOn);
-        program.Get<Button>("frmOptions", "cmdrestore").Raise("Click");
-        const bool live = program.machine.disk.ContentOf(Path) == "the program";
-        const bool held =
-            program.machine.disk.ContentOf("C:\\Velkarix\\Backup\\1.bup") == "the program";
-        EXPECT_TRUE(live || held) << "call " << number;
-        return journal.Calls().size();
-    }
-};
-
-TEST_P(RestoreFaults, NeverLoseTheBackup) {
-    const std::size_t calls = RestoreWithFault(NoFault, false);
-    EXPECT_GT(calls, 8u);
-    for (std::size_t number = 0; number < calls; ++number) RestoreWithFault(number, GetParam());
-}
-
-INSTANTIATE_TEST_SUITE_P(OnceAndFromThereOn, RestoreFaults, testing::Bool());
 
 }  // namespace
 }  // namespace velkarix
