@@ -5,6 +5,10 @@
 namespace velkarix::e2e {
 
 ActiveXKeys::~ActiveXKeys() {
+    RestoreKeys();
+}
+
+void ActiveXKeys::RestoreKeys() const {
     RestoreTree(HKEY_LOCAL_MACHINE, AllKeys, before_);
 }
 

@@ -24,6 +24,8 @@ class ActiveXKeys {
     static std::string KeyOf(const std::string& name);
     // All of them, as they are now and as they were when the test began.
     static RegistryTree ReadKeys();
+    // Puts them back as they were.
+    void RestoreKeys() const;
     RegistryTree KeysBefore() const { return before_.value_or(RegistryTree()); }
     // As they were, and each of these with the flag that keeps the browser from loading it.
     RegistryTree WithFlags(const std::vector<std::string>& names) const;

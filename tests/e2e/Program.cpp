@@ -16,13 +16,16 @@ bool IsMessageBox(const Window& window) {
     return IsSystemDialog(window) && GetDlgItem(window.Handle(), MessageTextId) != nullptr;
 }
 
-Window FirstWindow(DWORD processId, bool (*isWanted)(const Window&)) {
-    return WaitFor([&] {
-        for (const Window& window : TopWindows(processId)) {
-            if (isWanted(window)) return window;
+// None as soon as the process has ended.
+Window FirstWindow(const Process& process, bool (*isWanted)(const Window&)) {
+    Window found;
+    WaitUntil([&] {
+        for (const Window& window : TopWindows(process.Id())) {
+            if (isWanted(window)) found = window;
         }
-        return Window();
+        return found || !process.Running();
     });
+    return found;
 }
 
 }  // namespace
@@ -53,11 +56,11 @@ Window Program::Dialog(const std::string& name) const {
 }
 
 Window Program::Message() const {
-    return FirstWindow(Id(), IsMessageBox);
+    return FirstWindow(process_, IsMessageBox);
 }
 
 Window Program::SystemDialog() const {
-    return FirstWindow(Id(), IsSystemDialog);
+    return FirstWindow(process_, IsSystemDialog);
 }
 
 std::string Program::Focus() const {

@@ -12,28 +12,65 @@
 
 namespace {
 
+using Word = std::uintptr_t;
+
+// Whether a call with these arguments changes something.
+using Changing = bool (*)(const Word* words);
+bool Always(const Word*) {
+    return true;
+}
+// NtCreateFile: by its disposition any but opening what is there.
+bool Makes(const Word* words) {
+    constexpr Word OpenOnly = 1;
+    return words[7] != OpenOnly;
+}
+// NtOpenFile: by its options, a file that goes when it is closed.
+bool OpensToDelete(const Word* words) {
+    constexpr Word DeleteOnClose = 0x1000;
+    return (words[5] & DeleteOnClose) != 0;
+}
+// NtSetInformationFile: names, deletion and sizes, but not times.
+bool SetsMoreThanTimes(const Word* words) {
+    constexpr Word Times = 4;
+    return words[4] != Times;
+}
+
 // What the libraries of the system end up in when they change something.
-constexpr const char* Changes[] = {"NtCreateKey", "NtSetValueKey", "NtDeleteKey",
-                                   "NtDeleteValueKey", "NtWriteFile"};
-void* originals[std::size(Changes)] = {};
+struct Change {
+    const char* name;
+    Changing changes;
+    void* original = nullptr;
+};
+Change changes[] = {
+    {"NtCreateKey", Always},       {"NtSetValueKey", Always},
+    {"NtDeleteKey", Always},       {"NtDeleteValueKey", Always},
+    {"NtWriteFile", Always},       {"NtCreateFile", Makes},
+    {"NtOpenFile", OpensToDelete}, {"NtSetInformationFile", SetsMoreThanTimes},
+};
 int changesLeft = 0;
 
 // Stands in for the change of that index, whose arguments are all as wide as a word.
 template <std::size_t Index, typename... Words>
 LONG WINAPI Counted(Words... words) {
-    if (--changesLeft == 0) TerminateProcess(GetCurrentProcess(), velkarix::e2e::EndedAtChange);
-    return reinterpret_cast<LONG(WINAPI*)(Words...)>(originals[Index])(words...);
+    const Word list[] = {words...};
+    if (changes[Index].changes(list) && --changesLeft == 0) {
+        TerminateProcess(GetCurrentProcess(), velkarix::e2e::EndedAtChange);
+    }
+    return reinterpret_cast<LONG(WINAPI*)(Words...)>(changes[Index].original)(words...);
 }
 
-using Word = std::uintptr_t;
 void* const standIns[] = {
     reinterpret_cast<void*>(&Counted<0, Word, Word, Word, Word, Word, Word, Word>),
     reinterpret_cast<void*>(&Counted<1, Word, Word, Word, Word, Word, Word>),
     reinterpret_cast<void*>(&Counted<2, Word>),
     reinterpret_cast<void*>(&Counted<3, Word, Word>),
     reinterpret_cast<void*>(&Counted<4, Word, Word, Word, Word, Word, Word, Word, Word, Word>),
+    reinterpret_cast<void*>(
+        &Counted<5, Word, Word, Word, Word, Word, Word, Word, Word, Word, Word, Word>),
+    reinterpret_cast<void*>(&Counted<6, Word, Word, Word, Word, Word, Word>),
+    reinterpret_cast<void*>(&Counted<7, Word, Word, Word, Word, Word>),
 };
-static_assert(std::size(standIns) == std::size(Changes));
+static_assert(std::size(standIns) == std::size(changes));
 
 void Overwrite(void** place, void* value) {
     DWORD protection = 0;
@@ -54,8 +91,8 @@ int TurnImports(std::uint8_t* module) {
     for (; library->FirstThunk != 0; ++library) {
         auto** place = reinterpret_cast<void**>(module + library->FirstThunk);
         for (; *place != nullptr; ++place) {
-            for (std::size_t i = 0; i < std::size(Changes); ++i) {
-                if (*place != originals[i]) continue;
+            for (std::size_t i = 0; i < std::size(changes); ++i) {
+                if (*place != changes[i].original) continue;
                 Overwrite(place, standIns[i]);
                 ++turned;
             }
@@ -81,9 +118,9 @@ int TurnAllImports() {
 bool EndAtChange(int number) {
     Pin();
     const HMODULE system = GetModuleHandleA("ntdll.dll");
-    for (std::size_t i = 0; i < std::size(Changes); ++i) {
-        originals[i] = reinterpret_cast<void*>(GetProcAddress(system, Changes[i]));
+    for (Change& change : changes) {
+        change.original = reinterpret_cast<void*>(GetProcAddress(system, change.name));
     }
     changesLeft = number;
-    return TurnAllImports() >= static_cast<int>(std::size(Changes));
+    return TurnAllImports() >= static_cast<int>(std::size(changes));
 }
