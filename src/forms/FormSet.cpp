@@ -21,6 +21,12 @@ void FormSet::Define(std::string name, Factory make) {
     definitions_.push_back({std::move(name), std::move(make)});
 }
 
+std::vector<std::string> FormSet::Names() const {
+    std::vector<std::string> names;
+    for (const Definition& each : definitions_) names.push_back(each.name);
+    return names;
+}
+
 Form* FormSet::Loaded(std::string_view name) const {
     const auto found = std::find_if(loaded_.begin(), loaded_.end(), Named(name));
     return found == loaded_.end() ? nullptr : found->get();

@@ -22,6 +22,8 @@ class FormSet {
     FormSet& operator=(const FormSet&) = delete;
 
     void Define(std::string name, Factory make);
+    // Of all forms that are defined, in that order.
+    std::vector<std::string> Names() const;
     // Null when no form of that name is loaded.
     Form* Loaded(std::string_view name) const;
     // Loads the form when it isn't; inside `host` when it is a page. Null when no form of that name

@@ -114,51 +114,7 @@ class ItemOfAPlace : public testing::TestWithParam<ItemCase> {
         if (!value) return {};
         return std::to_string(value->type) + std::string(value->data.begin(), value->data.end());
     }
-    // Runs `work` once for each call that it makes, with that call failing, or all from there on.
-    void FailEachCall(const std::function<void(TestProgram&)>& work,
-                      const std::function<void(Run&)>& look) {
-        for (const bool allFromThereOn : {false, true}) {
-            for (std::size_t number = 0;; ++number) {
-                const std::unique_ptr<Run> run = Make();
-                CallJournal& journal = run->program.machine.Journal();
-                journal.Clear();
-                journal.FailCall(number, error::AccessDenied, allFromThereOn);
-                work(run->program);
-                const std::size_t calls = journal.Calls().size();
-                SCOPED_TRACE("call " + std::to_string(number) +
-                             (number < calls ? " " + journal.Calls()[number].name : ""));
-                look(*run);
-                if (number >= calls) return;
-            }
-        }
-    }
 };
-
-TEST_P(ItemOfAPlace, StandsWholeInOneOfItsPlacesWhicheverCallOfAMoveFails) {
-    const std::string whole = Standing(Make()->program.machine, enabled);
-    ASSERT_NE(whole, "");
-    FailEachCall([&](TestProgram& program) { MoveItem(program.application, places, Item()); },
-                 [&](Run& run) {
-                     EXPECT_TRUE(Standing(run.program.machine, true) == whole ||
-                                 Standing(run.program.machine, false) == whole);
-                 });
-}
-
-TEST_P(ItemOfAPlace, StandsWholeWhereItWasOrInARegistryFileWhicheverCallOfADeletionFails) {
-    const std::string whole = Standing(Make()->program.machine, enabled);
-    FailEachCall([&](TestProgram& program) { DeleteItem(program.application, places, Item()); },
-                 [&](Run& run) {
-                     MemoryMachine& machine = run.program.machine;
-                     if (Standing(machine, enabled) == whole) return;
-                     // The file that was opened last is the one that was read back.
-                     const RowTexts opened = machine.Journal().ArgumentsOf("CreateFileA");
-                     machine.Journal().FailCall(SIZE_MAX, error::Success);
-                     ASSERT_FALSE(opened.empty());
-                     EXPECT_TRUE(opened.back().ends_with(std::string("_") + list.backup + ".reg"));
-                     EXPECT_TRUE(MergeRegistryFile(machine.registry, run.Text(opened.back())));
-                     EXPECT_EQ(Standing(machine, enabled), whole);
-                 });
-}
 
 TEST_P(ItemOfAPlace, IsMovedAndNoMore) {
     const std::unique_ptr<Run> run = Make();

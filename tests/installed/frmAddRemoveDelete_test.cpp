@@ -1,9 +1,8 @@
-// Deleting an entry: it is kept in a file first, whatever fails or happens meanwhile.
+// Deleting an entry: it is kept in a file first, whatever happens meanwhile.
 #include <algorithm>
 #include <functional>
 
 #include "tests/installed/InstalledPage.h"
-#include "tests/machine/FaultRunner.h"
 #include "tests/machine/RegistryFileMerge.h"
 
 namespace velkarix {
@@ -246,56 +245,6 @@ TEST_F(DeletedEntry, MayTakeThePageAwayThatItsMenuBelongsTo) {
     program.desktop.nextMenuChoice = "mnuAddRemove_Delete";
     List().UserMouseUp(MouseButton::Right);
     EXPECT_FALSE(HasEntry());
-}
-
-// ---- Trouble at each call in turn
-
-// What is wrong with the machine that a deletion has left.
-std::string Loss(MemoryMachine& machine, const std::string& whole) {
-    MemoryHives kept;
-    MergeRegistryFile(kept, machine.disk.ContentOf(KeptFile).value_or(""));
-    const std::string key = InstalledPage::KeyOf("{App}");
-    if (machine.registry.TreeText(AllUsers, key) != whole &&
-        kept.TreeText(AllUsers, key) != whole) {
-        return "The entry stands whole neither in the registry nor in a file.";
-    }
-    if (machine.disk.ContentOf(AppFile) != "code") return "The application's file is touched.";
-    if (!machine.registry.HasKey(AllUsers, InstalledPage::KeyOf("Other"))) return "Another went.";
-    const bool listed = machine.registry.ValueAt(AllUsers, key, "DisplayName").has_value() &&
-                        machine.registry.ValueAt(AllUsers, key, "UninstallString").has_value();
-    RunningProgram program(machine);
-    program.Start();
-    Press(program, "frmMain", "cmdAddremove");
-    const ListView& list = program.Get<ListView>("frmAddRemove", "lstvAddRemove");
-    return list.RowCount() == (listed ? 2 : 1) ? "" : "The list doesn't show what is there.";
-}
-
-TEST(DeletionInTrouble, LosesNothing) {
-    MemoryHives entry;
-    AddFullEntry(entry);
-    const std::string whole = entry.TreeText(AllUsers, InstalledPage::KeyOf("{App}"));
-    FaultRunner runner;
-    for (const Family family : {Family::Windows95, Family::WindowsNt}) {
-        const auto prepare = [family](MemoryMachine& machine) {
-            machine.SetFamily(family);
-            AddFullEntry(machine.registry);
-            machine.SetValue(AllUsers, InstalledPage::KeyOf("Other"), "DisplayName", "Other");
-            machine.SetValue(AllUsers, InstalledPage::KeyOf("Other"), "UninstallString", "un");
-            machine.AddFile(AppFile).Content("code");
-        };
-        const auto open = [](RunningProgram& program) {
-            program.Start();
-            Press(program, "frmMain", "cmdAddremove");
-            ListView& list = program.Get<ListView>("frmAddRemove", "lstvAddRemove");
-            list.UserSelect(&list.Row(0));
-            program.desktop.answers = {MessageAnswer::Yes};
-        };
-        const auto give = [](RunningProgram& program) {
-            Press(program, "frmAddRemove", "cmdDelete");
-        };
-        runner.Run({"Delete", prepare, open, give,
-                    [&whole](MemoryMachine& machine) { return Loss(machine, whole); }});
-    }
 }
 
 }  // namespace

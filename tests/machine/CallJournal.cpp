@@ -13,16 +13,17 @@ bool LetsGo(std::string_view name) {
 
 }  // namespace
 
-ErrorCode CallJournal::Enter(std::string_view name, std::string arguments) {
+ErrorCode CallJournal::Enter(std::string_view name, std::string arguments, bool forWriting) {
     const std::size_t number = calls_.size();
     if (number >= firstUnreached_ && !LetsGo(name)) {
         throw ProcessEnded{};
     }
-    calls_.push_back({std::string(name), std::move(arguments)});
+    calls_.push_back({std::string(name), std::move(arguments), forWriting});
     if (action_ && number == actionCall_) {
         std::exchange(action_, nullptr)();
     }
-    if (number >= firstFailing_ && number <= lastFailing_) {
+    if (number >= firstFailing_ && number - firstFailing_ < failing_ &&
+        (!onlyTheSame_ || calls_[number] == calls_[firstFailing_])) {
         return numberedFailure_;
     }
     const auto next = nextFailures_.find(name);
@@ -38,9 +39,10 @@ ErrorCode CallJournal::Enter(std::string_view name, std::string arguments) {
     return lasting == lastingFailures_.end() ? error::Success : lasting->second;
 }
 
-void CallJournal::FailCall(std::size_t number, ErrorCode error, bool allFromThereOn) {
+void CallJournal::FailCalls(std::size_t number, std::size_t count, ErrorCode error) {
     firstFailing_ = number;
-    lastFailing_ = allFromThereOn ? SIZE_MAX : number;
+    failing_ = count;
+    onlyTheSame_ = true;
     numberedFailure_ = error;
 }
 

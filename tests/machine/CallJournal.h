@@ -16,10 +16,13 @@
 namespace velkarix {
 
 struct Call {
-    std::string name;       // as the interface calls it: "RegSetValueExA"
-    std::string arguments;  // what it was about: "HKCU\\Software\\Example, Name"
+    std::string name;         // as the interface calls it: "RegSetValueExA"
+    std::string arguments;    // what it was about: "HKCU\\Software\\Example, Name"
+    bool forWriting = false;  // it opens a file that it may make, empty or write
 
-    friend bool operator==(const Call&, const Call&) = default;
+    friend bool operator==(const Call& a, const Call& b) {
+        return a.name == b.name && a.arguments == b.arguments;
+    }
 };
 
 // What ends the code under test where its process is to end.
@@ -29,7 +32,7 @@ class CallJournal {
   public:
     // Every faked call begins with this: it writes the call down and gives the error that it must
     // fail with; Success to go on.
-    ErrorCode Enter(std::string_view name, std::string arguments = {});
+    ErrorCode Enter(std::string_view name, std::string arguments = {}, bool forWriting = false);
 
     // The next call of this name fails with `error`; asked twice, the next two do.
     void FailNext(const std::string& name, ErrorCode error = error::AccessDenied);
@@ -37,7 +40,14 @@ class CallJournal {
     void FailAlways(const std::string& name, ErrorCode error = error::AccessDenied);
 
     // The call of this number, counted from 0 since the last Clear, fails; or all from there on.
-    void FailCall(std::size_t number, ErrorCode error, bool allFromThereOn = false);
+    void FailCall(std::size_t number, ErrorCode error, bool allFromThereOn = false) {
+        firstFailing_ = number;
+        failing_ = allFromThereOn ? SIZE_MAX - number : 1;
+        onlyTheSame_ = false;
+        numberedFailure_ = error;
+    }
+    // So many in a row; of another kind than the first one, or about something else, none.
+    void FailCalls(std::size_t number, std::size_t count, ErrorCode error);
 
     // What others do to the machine meanwhile: `action` runs once, right before the call of this
     // number, counted from 0 since the last Clear, looks at anything.
@@ -62,7 +72,8 @@ class CallJournal {
     std::map<std::string, std::deque<ErrorCode>, std::less<>> nextFailures_;
     std::map<std::string, ErrorCode, std::less<>> lastingFailures_;
     std::size_t firstFailing_ = SIZE_MAX;
-    std::size_t lastFailing_ = 0;
+    std::size_t failing_ = 0;  // how many
+    bool onlyTheSame_ = false;
     std::size_t firstUnreached_ = SIZE_MAX;
     ErrorCode numberedFailure_ = error::Success;
     std::size_t actionCall_ = 0;

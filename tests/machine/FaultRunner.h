@@ -1,23 +1,26 @@
 // Gives a command that changes something once for each call that it makes to the machine, each time
-// with that call in trouble, and has what is left looked at. Commands are rows of a table:
+// with that call in trouble, and has what is left looked at. What may go wrong at a call is told by
+// its kind: see CallKinds.h.
 //
 //   FaultRunner runner;
-//   runner.Run({"Disable", PutItems, OpenPage, ClickDisable, FindLoss});
+//   runner.Run("Disable", {"on a full disk", PutItems, OpenPage, ClickDisable, FindLoss});
 //   runner.PrintCounts();
 #pragma once
 
 #include <cstddef>
 #include <functional>
 #include <string>
-#include <unordered_set>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
+#include "tests/machine/CallKinds.h"
 #include "tests/machine/TestProgram.h"
 
 namespace velkarix {
 
-struct FaultCommand {
+// In what circumstances a command is given.
+struct FaultScene {
     std::string name;
     // What is on the machine before the program starts.
     std::function<void(MemoryMachine&)> prepare;
@@ -34,32 +37,42 @@ struct FaultCommand {
 
 class FaultRunner {
   public:
-    // Gives the command with each call failing alone; with all calls from one on failing, and with
-    // the process ending there, at each call behind one that may have changed something. Machines
-    // that are left alike are examined once. What is wrong fails the test, with a few messages at
-    // most. A command that works on much is better given several times, on a part of it each: what
-    // one call in trouble costs is a whole run of the command.
-    void Run(const FaultCommand& command);
+    // Gives the command with each call in each trouble of its kind; with all calls from one on
+    // failing, and with the process ending there, at each call behind one that may have changed
+    // something. Machines that are left alike are examined once. What is wrong fails the test, with
+    // a few messages at most. A command that works on much is better given several times, on a part
+    // of it each: what one call in trouble costs is a whole run of the command.
+    void Run(const std::string& command, const FaultScene& scene);
 
-    // One line for each name of a command, and the sums.
+    // One line for each command, and the sums.
     void PrintCounts() const;
 
   private:
-    enum class Trouble { None, OneCall, AllFromThere, End };
     struct Counts {
         std::string command;
         std::size_t calls = 0;   // that the command makes by itself
-        std::size_t cases = 0;   // runs with one of them in trouble
+        std::size_t cases = 0;   // runs: one without trouble, the others with a call in trouble
+        std::size_t failed = 0;  // of the cases
         std::size_t states = 0;  // different machines left by all runs
     };
+    // The call that is in trouble.
+    struct Place {
+        std::size_t number = 0;
+        Call call = {};
+    };
 
-    // Gives the calls that the command made.
-    std::vector<Call> RunCase(const FaultCommand& command, Trouble trouble, std::size_t call);
-    void Examine(const FaultCommand& command, MemoryMachine& machine, const std::string& what);
+    // Both give the command; the second examines what is left and counts. What the command's calls
+    // were comes back.
+    std::vector<Call> GiveIn(const FaultScene& scene, const Trouble& trouble, const Place& place,
+                             MemoryMachine& machine);
+    std::vector<Call> RunCase(const FaultScene& scene, const Trouble& trouble, const Place& place);
+    bool IsLostByAnother(const FaultScene& scene, const Place& place);
+    // What is wrong with the machine; from memory where one that was left alike was examined.
+    const std::string& Examine(const FaultScene& scene, MemoryMachine& machine);
 
     std::vector<Counts> counts_;
-    // Of the command that runs: the machines seen so far, and how often something was wrong.
-    std::unordered_set<std::string> states_;
+    // Of the scene that runs: what was wrong with the machines so far, and how often something was.
+    std::unordered_map<std::string, std::string> seen_;
     int complaints_ = 0;
 };
 

@@ -26,6 +26,7 @@ class MemoryDisk {
     void SetCurrentFolder(const std::string& path) { currentFolder_ = path; }
     // How many bytes can still be written before the disk is full; nothing is no limit.
     void SetFreeBytes(std::optional<std::uint64_t> bytes) { freeBytes_ = bytes; }
+    const std::optional<std::uint64_t>& FreeBytes() const { return freeBytes_; }
 
     // Whether the system takes the last level for a device, in whatever folder.
     static bool IsDevice(const std::string& path);

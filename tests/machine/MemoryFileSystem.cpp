@@ -166,7 +166,7 @@ bool MemoryFileSystem::MoveFileExA(const std::string& path) {
 }
 
 ErrorCode MemoryFileSystem::CreateFileA(const std::string& path, FileUse use, FileHandle& file) {
-    if (const ErrorCode failure = journal_.Enter("CreateFileA", path)) {
+    if (const ErrorCode failure = journal_.Enter("CreateFileA", path, use != FileUse::Read)) {
         return failure;
     }
     if (use != FileUse::Read) {

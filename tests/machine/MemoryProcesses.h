@@ -41,6 +41,7 @@ class MemoryProcesses : public Processes {
     // The code that a process was stopped with.
     std::optional<std::uint32_t> StoppedWith(ProcessId id) const;
     bool IsRunning(ProcessId id) const { return Find(id) != nullptr; }
+    const std::vector<ProcessId>& Running() const { return order_; }
     // Which libraries the system has; both at first.
     void SetHasPsapi(bool there) { hasPsapi_ = there; }
     void SetHasToolhelp(bool there) { hasToolhelp_ = there; }

@@ -42,6 +42,15 @@ Bytes AsStored(std::uint32_t type, Bytes data, Family family) {
     return data;
 }
 
+// A value that seems to have grown beyond the buffer, whose size `size` is, tells how large it is.
+ErrorCode TellGrown(ErrorCode failure, std::uint32_t& size) {
+    constexpr std::uint32_t Growth = 1000;
+    if (failure == error::MoreData) {
+        size += Growth;
+    }
+    return failure;
+}
+
 // Copies as much as fits and tells the whole size; a text gets a NUL behind it where it lacks one
 // and there is room.
 ErrorCode Deliver(const MemoryValue& value, Bytes& buffer, std::uint32_t& size) {
@@ -152,7 +161,7 @@ ErrorCode MemoryRegistry::RegEnumValueA(KeyHandle key, std::uint32_t index,
                                         std::uint32_t& type, Bytes& data, std::uint32_t& size) {
     if (const ErrorCode failure =
             journal_.Enter("RegEnumValueA", Describe(key) + ", " + std::to_string(index))) {
-        return failure;
+        return TellGrown(failure, size);
     }
     std::shared_ptr<MemoryKey> found;
     if (const ErrorCode failure = KeyOf(key, right::QueryValue, found)) {
@@ -176,7 +185,7 @@ ErrorCode MemoryRegistry::RegEnumValueA(KeyHandle key, std::uint32_t index,
 ErrorCode MemoryRegistry::RegQueryValueExA(KeyHandle key, const std::string& name,
                                            std::uint32_t& type, Bytes* data, std::uint32_t& size) {
     if (const ErrorCode failure = journal_.Enter("RegQueryValueExA", Describe(key) + ", " + name)) {
-        return failure;
+        return TellGrown(failure, size);
     }
     std::shared_ptr<MemoryKey> found;
     if (const ErrorCode failure = KeyOf(key, right::QueryValue, found)) {

@@ -1,7 +1,5 @@
 // The full report when the machine fails: what can't be written is told by its writer, the rest
 // goes on, and the command can be given again.
-#include "tests/browser/BrowserPage.h"
-#include "tests/machine/FaultRunner.h"
 #include "tests/options/FullReportPage.h"
 
 namespace velkarix {
@@ -100,51 +98,6 @@ TEST_F(FullReportFailure, LeavesAHeadingOutThatCanNotBeWritten) {
     EXPECT_EQ(opened, 1u);
     EXPECT_EQ(Report(), ReportHeader() + InstalledArea().substr(2));
     EXPECT_TRUE(Messages().empty());
-}
-
-// ---- Each call in trouble
-
-std::string Registry(const MemoryMachine& machine) {
-    return machine.registry.TreeText(Hive::LocalMachine, "") +
-           machine.registry.TreeText(Hive::CurrentUser, "") +
-           machine.registry.TreeText(Hive::ClassesRoot, "");
-}
-
-// Nothing but the report and the page's own settings may be changed by it.
-std::string Changed(MemoryMachine& machine) {
-    MemoryMachine before;
-    PutReportMachine(before);
-    if (Registry(machine) != Registry(before)) return "the registry is another one";
-    for (const char* file : {"C:\\Tools\\bad.exe", "C:\\Tools\\a.dll", "C:\\Tools\\known.exe",
-                             "C:\\Velkarix\\SusProcess.vkl"}) {
-        if (machine.disk.ContentOf(file) != before.disk.ContentOf(file)) return file;
-    }
-    RunningProgram program(machine);
-    program.Start();
-    return program.application.forms.Loaded("frmProcess") == nullptr ? "no program starts" : "";
-}
-
-void OpenOptions(RunningProgram& program, const char* box) {
-    program.Start();
-    program.Get<Button>("frmMain", "cmdOptions").Raise("Click");
-    program.Get<CheckBox>("frmOptions", box).Raise("Click");
-}
-
-void Give(RunningProgram& program) {
-    program.desktop.nextSaveFile = ReportFile;
-    auto& button = program.Get<Button>("frmOptions", "cmdReport");
-    button.Raise("Click");
-    EXPECT_TRUE(button.Enabled());
-    EXPECT_EQ(program.application.forms.Loaded("frmIE"), nullptr);
-}
-
-TEST(FullReportFaults, HarmNothing) {
-    FaultRunner runner;
-    for (const char* box : AreaBoxes) {
-        runner.Run({box, PutReportMachine, [box](RunningProgram& it) { OpenOptions(it, box); },
-                    Give, Changed});
-    }
-    runner.PrintCounts();
 }
 
 }  // namespace

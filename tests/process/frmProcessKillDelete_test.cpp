@@ -1,6 +1,4 @@
 // Stopping processes and deleting their files, as a user does it on the page.
-#include <set>
-
 #include "tests/process/ProcessPage.h"
 
 namespace velkarix {
@@ -224,44 +222,6 @@ TEST_F(KillDeleteTest, OverwritesABackupOfTheSameSecond) {
               "C:\\Tools\\worse.exe\x01"
               "6/1/2004\r\n");
 }
-
-// ---- Every call of a deletion fails once, or from there on: the file or its copy stays whole.
-
-constexpr std::size_t NoFault = SIZE_MAX;
-
-class DeleteFaults : public testing::TestWithParam<bool> {
-  protected:
-    // Deletes with the call of this number failing. Gives how many calls there were.
-    static std::size_t DeleteWithFault(std::size_t number, bool allFromThereOn) {
-        TestProgram program;
-        program.machine.AddFile(Path).Content("the program");
-        program.machine.AddProcess(7, Path);
-        program.Start();
-        program.machine.processes.End(7);
-        program.desktop.answers = {MessageAnswer::Yes, MessageAnswer::Yes};
-        CallJournal& journal = program.machine.Journal();
-        journal.Clear();
-        journal.FailCall(number, error::AccessDenied, allFromThereOn);
-        program.Get<Button>("frmProcess", "cmdDelete").Raise("Click");
-        const bool live = program.machine.disk.ContentOf(Path) == "the program";
-        const bool held =
-            program.machine.disk.ContentOf(std::string(Stem) + ".bup") == "the program" &&
-            program.machine.disk.ContentOf(std::string(Stem) + ".prc")
-                .value_or("")
-                .starts_with(Path);
-        EXPECT_TRUE(live || held) << "call " << number << ": "
-                                  << "call " << number;
-        return journal.Calls().size();
-    }
-};
-
-TEST_P(DeleteFaults, NeverLoseAFile) {
-    const std::size_t calls = DeleteWithFault(NoFault, false);
-    EXPECT_GT(calls, 20u);
-    for (std::size_t number = 0; number < calls; ++number) DeleteWithFault(number, GetParam());
-}
-
-INSTANTIATE_TEST_SUITE_P(OnceAndFromThereOn, DeleteFaults, testing::Bool());
 
 }  // namespace
 }  // namespace velkarix

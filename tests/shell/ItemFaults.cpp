@@ -1,19 +1,9 @@
 #include "tests/shell/ItemFaults.h"
 
+#include "tests/machine/FaultRunner.h"
+
 namespace velkarix {
 namespace {
-
-struct Trouble {
-    enum class Kind { None, OneCall, AllFromThere, End };
-    Kind kind = Kind::None;
-    ErrorCode error = error::Success;
-};
-
-constexpr Trouble troubles[] = {{Trouble::Kind::OneCall, error::AccessDenied},
-                                {Trouble::Kind::OneCall, error::FileNotFound},
-                                {Trouble::Kind::OneCall, error::MoreData},
-                                {Trouble::Kind::AllFromThere, error::AccessDenied},
-                                {Trouble::Kind::End}};
 
 struct Variant {
     Family family;
@@ -29,49 +19,35 @@ void MergeAllBelow(const MemoryEntry& folder, MemoryHives& hives) {
     }
 }
 
-void Arrange(CallJournal& journal, const Trouble& trouble, std::size_t call) {
-    if (trouble.kind == Trouble::Kind::End) {
-        journal.EndAtCall(call);
-    } else if (trouble.kind != Trouble::Kind::None) {
-        journal.FailCall(call, trouble.error, trouble.kind == Trouble::Kind::AllFromThere);
-    }
+std::string FindLoss(const ItemCommand& command, const MemoryMachine& machine) {
+    MemoryHives kept;
+    MergeAllBelow(*machine.disk.Find("C:\\"), kept);
+    if (command.stands(machine.registry, kept)) return {};
+    return machine.registry.TreeText(Hive::CurrentUser, "Software");
 }
 
-// Gives how many calls the command made.
-std::size_t RunCase(const ItemCommand& command, const Variant& variant, const Trouble& trouble,
-                    std::size_t call) {
-    ItemWorld world;
-    world.machine.SetFamily(variant.family);
-    world.machine.registry.SetHasCopyKey(variant.hasCopyKey);
-    command.prepare(world.machine.registry);
-    Arrange(world.machine.Journal(), trouble, call);
-    try {
-        command.give(world.application);
-    } catch (const ProcessEnded&) {
-    }
-    MemoryHives kept;
-    MergeAllBelow(*world.machine.disk.Find("C:\\"), kept);
-    const std::vector<Call>& calls = world.machine.Journal().Calls();
-    EXPECT_TRUE(command.stands(world.machine.registry, kept))
-        << "trouble " << static_cast<int>(trouble.kind) << " with code " << trouble.error
-        << " at call " << call
-        << (call < calls.size() ? " " + calls[call].name + " " + calls[call].arguments : "") << "\n"
-        << world.machine.registry.TreeText(Hive::CurrentUser, "Software");
-    EXPECT_TRUE(trouble.kind != Trouble::Kind::None || command.done(world.machine.registry));
-    return calls.size();
+void Prepare(const ItemCommand& command, const Variant& variant, MemoryMachine& machine) {
+    machine.SetFamily(variant.family);
+    machine.registry.SetHasCopyKey(variant.hasCopyKey);
+    command.prepare(machine.registry);
 }
 
 }  // namespace
 
 void ExpectNeverLost(const ItemCommand& command) {
+    FaultRunner runner;
     for (const Family family : {Family::Windows95, Family::WindowsNt}) {
         for (const bool hasCopyKey : {true, false}) {
             const Variant variant{family, hasCopyKey};
-            const std::size_t count = RunCase(command, variant, {}, 0);
-            EXPECT_GT(count, 5u);
-            for (std::size_t call = 0; call < count; ++call) {
-                for (const Trouble& trouble : troubles) RunCase(command, variant, trouble, call);
-            }
+            ItemWorld world;
+            Prepare(command, variant, world.machine);
+            command.give(world.application);
+            EXPECT_TRUE(command.done(world.machine.registry));
+            runner.Run("item",
+                       {"item", [&](MemoryMachine& machine) { Prepare(command, variant, machine); },
+                        [](RunningProgram&) {},
+                        [&](RunningProgram& program) { command.give(program.application); },
+                        [&](MemoryMachine& machine) { return FindLoss(command, machine); }});
         }
     }
 }

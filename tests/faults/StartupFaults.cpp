@@ -1,16 +1,15 @@
-#include "tests/startup/StartupFaults.h"
+#include "tests/faults/StartupFaults.h"
 
 #include <algorithm>
 #include <memory>
 #include <utility>
 
+#include "base/Text.h"
+#include "tests/faults/FlatMachine.h"
 #include "tests/machine/RegistryFileMerge.h"
 
 namespace velkarix {
 namespace {
-
-constexpr const char* ActionNames[] = {"disable", "enable", "delete"};
-constexpr const char* Buttons[] = {"cmdDisable", "cmdEnable", "cmdDelete"};
 
 constexpr const char* KeptLater = "C:\\Velkarix\\Backup\\6_1_153_13_0_0_";
 
@@ -38,7 +37,17 @@ std::string KeptPath(const std::string& name, bool later = false) {
 
 class Fault {
   public:
-    explicit Fault(StartupFault scene) : scene_(std::move(scene)) {}
+    explicit Fault(StartupFault scene) : scene_(std::move(scene)) {
+        MemoryMachine machine;
+        Prepare(machine);
+        before_ = Flatten(machine);
+        for (const Item& item : scene_.items) {
+            apart_.push_back(item.IsValue()
+                                 ? PlaceOf(FindRunKey(item.location)->hive, KeyOf(item, true)) +
+                                       ", " + ToLower(item.name)
+                                 : PathOf(item, true));
+        }
+    }
 
     void Prepare(MemoryMachine& machine) const {
         machine.SetSystem(scene_.system);
@@ -67,10 +76,6 @@ class Fault {
         program.desktop.answers = {MessageAnswer::Yes};
     }
 
-    void Give(RunningProgram& program) const {
-        Click(program, Buttons[static_cast<int>(scene_.action)]);
-    }
-
     std::string Examine(MemoryMachine& machine) const {
         machine.disk.SetFreeBytes(std::nullopt);
         machine.clock.SetLocalTime(MakeTime(2004, 6, 1, 13));
@@ -79,8 +84,11 @@ class Fault {
         for (const Item& item : scene_.items) {
             if (IsLost(machine, kept, item)) return "lost: " + Describe(item);
         }
-        const std::string wrong = FindWrongRow(machine);
-        return !wrong.empty() || scene_.action == StartupAction::Delete ? wrong : MoveBack(machine);
+        std::string wrong = FindDifference(before_, Flatten(machine), apart_);
+        if (wrong.empty()) wrong = FindWrongRow(machine);
+        if (!wrong.empty() || scene_.action == StartupAction::Delete) return wrong;
+        wrong = MoveBack(machine);
+        return wrong.empty() ? FindDifference(before_, Flatten(machine), apart_) : wrong;
     }
 
   private:
@@ -196,16 +204,20 @@ class Fault {
     }
 
     StartupFault scene_;
+    // All but the items themselves and the program's own places is to be as it was before.
+    FlatMachine before_;
+    std::vector<std::string> apart_ = {"hklm\\software\\velkarix\\", "hkcu\\software\\velkarix\\",
+                                       "C:\\Velkarix\\"};
 };
 
 }  // namespace
 
-FaultCommand CommandOf(const StartupFault& scene) {
+FaultScene SceneOf(const StartupFault& scene) {
     const auto fault = std::make_shared<const Fault>(scene);
-    return {std::string(ActionNames[static_cast<int>(scene.action)]) + ", " + scene.circumstances,
+    return {scene.circumstances,
             [fault](MemoryMachine& machine) { fault->Prepare(machine); },
             [fault](RunningProgram& program) { fault->Open(program); },
-            [fault](RunningProgram& program) { fault->Give(program); },
+            {},  // by the table's command
             [fault](MemoryMachine& machine) { return fault->Examine(machine); }};
 }
 

@@ -1,8 +1,8 @@
-// Nothing is ever lost, whatever goes wrong: every command of the startup page that changes
-// something is given once for each of its calls, with that call in trouble.
-#include "tests/startup/StartupFaults.h"
-
+// Switching startup items off and on, and deleting them.
 #include <cstddef>
+
+#include "tests/faults/FaultTable.h"
+#include "tests/faults/StartupFaults.h"
 
 namespace velkarix {
 namespace {
@@ -73,53 +73,54 @@ std::vector<Item> OneOf(std::vector<Item> items, std::size_t number) {
     return items;
 }
 
-class StartupFaults : public testing::Test {
-  protected:
-    void TearDown() override { runner_.PrintCounts(); }
-    FaultRunner runner_;
-};
+using Scenes = std::vector<FaultScene>;
 
-TEST_F(StartupFaults, LeaveEveryItemWholeWhenItIsMoved) {
-    for (const Action action : {Action::Disable, Action::Enable}) {
-        const bool enabled = action == Action::Disable;
-        for (const NamedSystem system : {NamedSystem::WindowsXp, NamedSystem::Windows95}) {
-            runner_.Run(CommandOf({"values", action, Values(enabled), system}));
-            runner_.Run(CommandOf({"shortcuts", action, Files(enabled), system}));
-        }
-        runner_.Run(CommandOf({"values of one name", action, TwoValues(enabled)}));
-        runner_.Run(CommandOf({"shortcuts of one name", action, TwoFiles(enabled)}));
-        runner_.Run(CommandOf({"the same shortcut twice", action, SameFiles(enabled)}));
+constexpr std::uint64_t FillingDisks[] = {0, 60, 250};  // bytes that are free at first
+
+Scenes MoveScenes(Action action) {
+    const bool enabled = action == Action::Disable;
+    Scenes scenes;
+    for (const NamedSystem system : {NamedSystem::WindowsXp, NamedSystem::Windows95}) {
+        scenes.push_back(SceneOf({"values", action, Values(enabled), system}));
+        scenes.push_back(SceneOf({"shortcuts", action, Files(enabled), system}));
     }
-}
-
-TEST_F(StartupFaults, LeaveEveryItemWholeWhileTheDiskFillsUp) {
-    for (const Action action : {Action::Disable, Action::Enable}) {
-        const bool enabled = action == Action::Disable;
-        for (const std::uint64_t freeBytes : {0, 60, 250}) {
-            for (const auto& items : {Values(enabled), Files(enabled), TwoFiles(enabled)}) {
-                runner_.Run(CommandOf(
-                    {"a disk that fills up", action, items, NamedSystem::WindowsXp, freeBytes}));
-            }
+    scenes.push_back(SceneOf({"values of one name", action, TwoValues(enabled)}));
+    scenes.push_back(SceneOf({"shortcuts of one name", action, TwoFiles(enabled)}));
+    scenes.push_back(SceneOf({"the same shortcut twice", action, SameFiles(enabled)}));
+    for (const std::uint64_t freeBytes : FillingDisks) {
+        for (const auto& items : {Values(enabled), Files(enabled), TwoFiles(enabled)}) {
+            scenes.push_back(SceneOf(
+                {"a disk that fills up", action, items, NamedSystem::WindowsXp, freeBytes}));
         }
     }
+    return scenes;
 }
 
-TEST_F(StartupFaults, KeepEveryItemThatIsDeleted) {
+Scenes DeletionScenes() {
+    Scenes scenes;
     for (const bool enabled : {true, false}) {
         for (std::size_t i = 0; i < Values(enabled).size(); ++i) {
-            runner_.Run(CommandOf({"values", Action::Delete, OneOf(Values(enabled), i)}));
+            scenes.push_back(SceneOf({"values", Action::Delete, OneOf(Values(enabled), i)}));
         }
         for (std::size_t i = 0; i < Files(enabled).size(); ++i) {
-            runner_.Run(CommandOf({"shortcuts", Action::Delete, OneOf(Files(enabled), i)}));
+            scenes.push_back(SceneOf({"shortcuts", Action::Delete, OneOf(Files(enabled), i)}));
         }
-        for (const std::uint64_t freeBytes : {0, 60, 250}) {
+        for (const std::uint64_t freeBytes : FillingDisks) {
             for (const auto& items : {OneOf(Values(enabled), 1), OneOf(Files(enabled), 0)}) {
-                runner_.Run(CommandOf({"a disk that fills up", Action::Delete, items,
-                                       NamedSystem::WindowsXp, freeBytes}));
+                scenes.push_back(SceneOf({"a disk that fills up", Action::Delete, items,
+                                          NamedSystem::WindowsXp, freeBytes}));
             }
         }
     }
+    return scenes;
 }
 
 }  // namespace
+
+std::vector<FaultRow> StartupRows() {
+    return {{"frmStartup.cmdDisable_Click", [] { return MoveScenes(Action::Disable); }},
+            {"frmStartup.cmdEnable_Click", [] { return MoveScenes(Action::Enable); }},
+            {"frmStartup.cmdDelete_Click", DeletionScenes}};
+}
+
 }  // namespace velkarix

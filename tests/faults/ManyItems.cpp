@@ -1,12 +1,10 @@
 // Nothing is ever lost where many items are moved by one command, either.
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
 
-#include "tests/browser/FaultScenes.h"
+#include "tests/faults/BrowserScenes.h"
 
 namespace velkarix {
 namespace {
@@ -54,26 +52,20 @@ void PickCallsOf(const ListCase& list, int number, const std::vector<Call>& call
     for (std::size_t i = begin; i < begin + length; ++i) picked.push_back(i);
 }
 
+}  // namespace
+
 // A call in trouble costs a move of all rows, so that only the calls of the first, the hundredth
 // and the last row are put in trouble, and not those of all.
-TEST(BrowserFaultsOfMany, LeaveEveryItemWhole) {
-    FaultRunner runner;
-    for (const ListCase* list : {&Domains, &Toolbars}) {
-        for (const ItemAction action : {ItemAction::Disable, ItemAction::Enable}) {
-            FaultCommand command =
-                CommandOf(MovingMany(*list, action, AllCircumstances[0]), "200 rows");
-            command.pick = [list](const std::vector<Call>& calls) {
-                std::vector<std::size_t> picked;
-                for (const int number : {0, Many / 2 - 1, Many - 1}) {
-                    PickCallsOf(*list, number, calls, picked);
-                }
-                return picked;
-            };
-            runner.Run(command);
+FaultScene ManyScene(const ListCase& list, ItemAction action) {
+    FaultScene scene = SceneOf(MovingMany(list, action, AllCircumstances[0]), "200 rows");
+    scene.pick = [&list](const std::vector<Call>& calls) {
+        std::vector<std::size_t> picked;
+        for (const int number : {0, Many / 2 - 1, Many - 1}) {
+            PickCallsOf(list, number, calls, picked);
         }
-    }
-    runner.PrintCounts();
+        return picked;
+    };
+    return scene;
 }
 
-}  // namespace
 }  // namespace velkarix

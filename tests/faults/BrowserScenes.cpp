@@ -1,4 +1,4 @@
-#include "tests/browser/FaultScenes.h"
+#include "tests/faults/BrowserScenes.h"
 
 #include <algorithm>
 #include <string>

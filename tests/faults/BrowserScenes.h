@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "tests/browser/BrowserFaults.h"
+#include "tests/faults/BrowserFaults.h"
 
 namespace velkarix {
 
@@ -30,6 +30,9 @@ void Become(MemoryMachine& machine, const Circumstances& circumstances);
 BrowserFault Moving(const ListCase& list, ItemAction action, const Circumstances& on,
                     std::size_t group);
 std::size_t GroupsOf(const ListCase& list);
+
+// Two hundred items in one place.
+FaultScene ManyScene(const ListCase& list, ItemAction action);
 
 // One hard item is deleted where it is; of values, the one of the number `kind`.
 BrowserFault Deleting(const ListCase& list, const PlaceCase& place, bool enabled,

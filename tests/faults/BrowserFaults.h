@@ -34,9 +34,9 @@ struct BrowserFault {
     std::function<std::vector<FaultItem>(MemoryMachine&)> prepare;
 };
 
-// The row of the table. Wrong is: an item that stands whole in neither place nor in a kept file
+// Wrong is: an item that stands whole in neither place nor in a kept file
 // that brings it back, a row that the next load of the page shows amiss, and what the program's
 // own commands and the kept files together can't undo.
-FaultCommand CommandOf(const BrowserFault& fault, const std::string& circumstances);
+FaultScene SceneOf(const BrowserFault& fault, const std::string& circumstances);
 
 }  // namespace velkarix

@@ -36,9 +36,9 @@ struct StartupFault {
     std::optional<std::uint64_t> freeBytes = {};
 };
 
-// The row of the table. Wrong is: an item that stands whole in neither place nor in what is kept, a
+// Wrong is: an item that stands whole in neither place nor in what is kept, a
 // row that the next load of the page shows amiss, and an item that the program's own command
 // doesn't bring back.
-FaultCommand CommandOf(const StartupFault& fault);
+FaultScene SceneOf(const StartupFault& fault);
 
 }  // namespace velkarix

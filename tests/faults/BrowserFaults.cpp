@@ -1,7 +1,10 @@
-#include "tests/browser/BrowserFaults.h"
+#include "tests/faults/BrowserFaults.h"
 
 #include <memory>
 #include <utility>
+
+#include "base/Text.h"
+#include "tests/faults/FlatMachine.h"
 
 namespace velkarix {
 namespace {
@@ -11,9 +14,13 @@ class FaultTest {
     explicit FaultTest(const BrowserFault& fault) : fault_(fault), list_(fault.list) {
         MemoryMachine machine;
         items_ = fault.prepare(machine);
+        before_ = Flatten(machine);
         for (FaultItem& item : items_) {
             item.original = Standing(machine.registry, item, item.enabled);
             item.arrived = TextOnArrival(machine.registry, item);
+            const std::string holder = PlaceOf(item.place->hive, item.place->live);
+            apart_.push_back(list_.values ? holder + ", " + ToLower(item.name)
+                                          : holder + ToLower(item.name) + "\\");
         }
     }
 
@@ -31,11 +38,6 @@ class FaultTest {
         program.desktop.answers = {MessageAnswer::Yes};
     }
 
-    void Give(RunningProgram& program) const {
-        const char* const buttons[] = {list_.disable, list_.enable, list_.remove};
-        Click(program, buttons[static_cast<int>(fault_.action)]);
-    }
-
     std::string Examine(MemoryMachine& machine) const {
         machine.registry.afterCopy = nullptr;
         machine.disk.SetFreeBytes(std::nullopt);
@@ -45,8 +47,10 @@ class FaultTest {
         for (const FaultItem& item : items_) {
             if (IsLost(machine, kept, item)) return "lost: " + Describe(item);
         }
-        std::string wrong = FindWrongRow(machine);
-        return wrong.empty() ? FindUndone(machine) : wrong;
+        std::string wrong = FindDifference(before_, Flatten(machine), apart_);
+        if (wrong.empty()) wrong = FindWrongRow(machine);
+        if (wrong.empty()) wrong = FindUndone(machine);
+        return wrong.empty() ? FindDifference(before_, Flatten(machine), apart_) : wrong;
     }
 
   private:
@@ -153,18 +157,21 @@ class FaultTest {
     BrowserFault fault_;
     const ListCase& list_;
     std::vector<FaultItem> items_;
+    // All but the items themselves and the program's own places is to be as it was before.
+    FlatMachine before_;
+    std::vector<std::string> apart_ = {"hklm\\software\\velkarix\\", "hkcu\\software\\velkarix\\",
+                                       PlaceOf(Hive::ClassesRoot, "Software\\Velkarix"),
+                                       PlaceOf(Hive::ClassesRoot, "Software"), "C:\\Velkarix\\"};
 };
 
 }  // namespace
 
-FaultCommand CommandOf(const BrowserFault& fault, const std::string& circumstances) {
+FaultScene SceneOf(const BrowserFault& fault, const std::string& circumstances) {
     const auto test = std::make_shared<const FaultTest>(fault);
-    constexpr const char* Actions[] = {"disable", "enable", "delete"};
-    return {std::string(fault.list.list) + " " + Actions[static_cast<int>(fault.action)] + ", " +
-                circumstances,
+    return {circumstances,
             [test](MemoryMachine& machine) { test->Prepare(machine); },
             [test](RunningProgram& program) { test->Open(program); },
-            [test](RunningProgram& program) { test->Give(program); },
+            {},  // by the table's command
             [test](MemoryMachine& machine) { return test->Examine(machine); }};
 }
 
