@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <optional>
 
+#include "base/Contrast.h"
 #include "forms/ListSearch.h"
 #include "forms/win32/ListModes.h"
 
@@ -56,7 +57,10 @@ LRESULT MarkDrawnRow(ListView& list, const Fonts& fonts, NMLVCUSTOMDRAW& draw) {
     const ListRow* row = RowAt(list, static_cast<int>(draw.nmcd.dwItemSpec));
     const bool marked = row != nullptr && (!columns || draw.iSubItem == 0);
     const std::optional<Color> colour = marked ? row->TextColor() : std::nullopt;
-    draw.clrText = colour.value_or(GetSysColor(COLOR_WINDOWTEXT));
+    const TextColors plain{GetSysColor(COLOR_WINDOWTEXT), GetSysColor(COLOR_WINDOW)};
+    const TextColors shown = colour ? MarkColors(*colour, plain.ground) : plain;
+    draw.clrText = shown.text;
+    draw.clrTextBk = shown.ground;
     SelectObject(draw.nmcd.hdc, marked && row->Bold() ? fonts.Bold() : fonts.Dialog());
     return CDRF_NEWFONT;
 }

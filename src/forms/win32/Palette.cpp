@@ -1,5 +1,7 @@
 #include "forms/win32/Palette.h"
 
+#include "base/Contrast.h"
+
 namespace velkarix {
 
 namespace {
@@ -20,16 +22,19 @@ constexpr std::array<ShadeColours, ShadeCount> Shades{{
     {{RGB(255, 255, 255), RGB(42, 143, 170)}, COLOR_BTNTEXT, COLOR_BTNTEXT},
 }};
 
+// A scheme that was chosen among the others, and not in the system's settings for users who need
+// it, doesn't set the flag.
 bool SystemColoursOnly() {
     HIGHCONTRASTA contrast{};
     contrast.cbSize = sizeof(contrast);
     const bool highContrast =
         SystemParametersInfoA(SPI_GETHIGHCONTRAST, sizeof(contrast), &contrast, 0) != FALSE &&
         (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
+    const TextColors dialog{GetSysColor(COLOR_BTNTEXT), GetSysColor(COLOR_3DFACE)};
     const ScreenContext screen;
     const int bitsPerPixel = GetDeviceCaps(screen, BITSPIXEL) * GetDeviceCaps(screen, PLANES);
     // Fewer colours would be dithered, and text on a dithered ground is hard to read.
-    return highContrast || bitsPerPixel <= 8;
+    return highContrast || IsHighContrast(dialog) || bitsPerPixel <= 8;
 }
 
 }  // namespace
