@@ -38,7 +38,7 @@ std::vector<Control*> ProxyView::Controls() {
 
 Layout ProxyView::ViewLayout() {
     return Column({Item(chkProxyEnabled_),
-                   Grid(2, {Item(lblAddress_), Item(txtAddress_), Item(lblPort_),
+                   Grid(2, {Item(lblAddress_), Item(txtAddress_, 1), Item(lblPort_),
                             Row({Item(txtPort_), Space()})}),
                    Row({Space(), Item(cmdProxyApply_)}), Space()});
 }

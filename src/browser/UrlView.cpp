@@ -71,8 +71,8 @@ Layout UrlView::Labelled(std::span<const UrlBox> boxes, bool withButtons) const 
     for (const UrlBox box : boxes) {
         grid.children.push_back(Item(*LabelOf(box)));
         grid.children.push_back(
-            withButtons ? Row({Item(Box(box), 1), Item(StockButton(EntryOf(box).button))})
-                        : Item(Box(box)));
+            withButtons ? Row({Item(Box(box), 1), Item(StockButton(EntryOf(box).button))}, 1)
+                        : Item(Box(box), 1));
     }
     return grid;
 }

@@ -274,6 +274,17 @@ Layout Stack(std::vector<Layout> children, int stretch) {
     return layout;
 }
 
+Layout OnView(const Layout& layout) {
+    Layout seen = layout;
+    if (layout.kind == Layout::Kind::Stack) {
+        std::erase_if(seen.children, [](const Layout& child) {
+            return child.control != nullptr && !child.control->Shown();
+        });
+    }
+    for (Layout& child : seen.children) child = OnView(child);
+    return seen;
+}
+
 Size MinimumSize(const Layout& layout, LayoutMetrics& metrics) {
     switch (layout.kind) {
         case Layout::Kind::Space:
@@ -290,8 +301,9 @@ Size MinimumSize(const Layout& layout, LayoutMetrics& metrics) {
         case Layout::Kind::Group: {
             const Insets insets = metrics.GroupInsets(*layout.control);
             const Size inside = MinimumSize(layout.children.front(), metrics);
-            return {inside.width + insets.left + insets.right,
-                    inside.height + insets.top + insets.bottom};
+            const Size own = metrics.PreferredSize(*layout.control);
+            return {std::max(own.width, inside.width + insets.left + insets.right),
+                    std::max(own.height, inside.height + insets.top + insets.bottom)};
         }
         case Layout::Kind::Stack: {
             Size largest;

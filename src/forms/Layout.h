@@ -58,7 +58,8 @@ struct Insets {
 class LayoutMetrics {
   public:
     virtual ~LayoutMetrics() = default;
-    // The least size at which the control shows all of itself.
+    // The least size at which the control shows all of itself; of a group, without what stands in
+    // it.
     virtual Size PreferredSize(Control& control) = 0;
     // Room that a frame or panel keeps around its child.
     virtual Insets GroupInsets(Control& group) = 0;
@@ -71,6 +72,8 @@ struct Placement {
     Rect area;
 };
 
+// The layout without what the stacks in it don't show now.
+Layout OnView(const Layout& layout);
 // The least size that holds everything.
 Size MinimumSize(const Layout& layout, LayoutMetrics& metrics);
 // Places all controls inside `area`, groups before what stands in them. Room that is missing to the

@@ -58,7 +58,7 @@ frmviewInfo::frmviewInfo(Application& application)
     for (const Line& line : lines_) {
         Control* field = line.box ? static_cast<Control*>(line.box.get()) : line.plain.get();
         controls.insert(controls.end(), {line.caption.get(), field});
-        lines.children.insert(lines.children.end(), {Item(*line.caption), Item(*field)});
+        lines.children.insert(lines.children.end(), {Item(*line.caption), Item(*field, 1)});
     }
     controls.push_back(&cmdOk_);
     SetControls(std::move(controls));

@@ -46,6 +46,48 @@ bool SaveScreenshot(const std::string& name, DWORD processId) {
         [&] { return GetFileAttributesA(request.c_str()) == INVALID_FILE_ATTRIBUTES; });
 }
 
+Capture::Capture(const RECT& area)
+    : area_(area),
+      pixels_(static_cast<std::size_t>((area.right - area.left) * (area.bottom - area.top))) {
+    const int width = area.right - area.left;
+    const int height = area.bottom - area.top;
+    const HDC screen = GetDC(nullptr);
+    const HDC memory = CreateCompatibleDC(screen);
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+    const HGDIOBJ before = SelectObject(memory, bitmap);
+    BitBlt(memory, 0, 0, width, height, screen, area.left, area.top, SRCCOPY);
+    SelectObject(memory, before);
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    GetDIBits(memory, bitmap, 0, static_cast<UINT>(height), pixels_.data(), &info, DIB_RGB_COLORS);
+    DeleteObject(bitmap);
+    DeleteDC(memory);
+    ReleaseDC(nullptr, screen);
+}
+
+DWORD Capture::At(LONG x, LONG y) const {
+    const LONG width = area_.right - area_.left;
+    return pixels_.at(static_cast<std::size_t>((y - area_.top) * width + x - area_.left)) &
+           0xFFFFFF;
+}
+
+int Capture::Differing(const Capture& other, const RECT& area) const {
+    RECT common{};
+    IntersectRect(&common, &area, &area_);
+    IntersectRect(&common, &common, &other.area_);
+    int count = 0;
+    for (LONG y = common.top; y < common.bottom; ++y) {
+        for (LONG x = common.left; x < common.right; ++x) {
+            if (At(x, y) != other.At(x, y)) ++count;
+        }
+    }
+    return count;
+}
+
 int CountPixels(const RECT& area, const std::function<bool(COLORREF)>& counts) {
     const int width = area.right - area.left;
     const int height = area.bottom - area.top;

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace velkarix::e2e {
 
@@ -13,6 +14,20 @@ namespace velkarix::e2e {
 // with its product name, or its class where it has none, and its geometry as X programs write it
 // ("cmdKill 97x24+397+463"). False when there is no such folder, or nobody takes pictures.
 bool SaveScreenshot(const std::string& name, DWORD processId);
+
+// What an area of the screen shows now, to be compared with what it shows later.
+class Capture {
+  public:
+    explicit Capture(const RECT& area);
+    // How many pixels of `area` differ, as far as both show it.
+    int Differing(const Capture& other, const RECT& area) const;
+
+  private:
+    DWORD At(LONG x, LONG y) const;
+
+    RECT area_;
+    std::vector<DWORD> pixels_;
+};
 
 // How many pixels of an area of the screen satisfy `counts`.
 int CountPixels(const RECT& area, const std::function<bool(COLORREF)>& counts);

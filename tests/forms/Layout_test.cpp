@@ -110,6 +110,28 @@ TEST_F(LayoutTest, AStackGivesItsWholePlaceToEachOfItsChildren) {
     EXPECT_EQ(places[&b], (Rect{5, 6, 100, 80}));
 }
 
+TEST_F(LayoutTest, AGroupIsAsWideAsItsCaptionAtLeast) {
+    metrics.sizes[&frame] = {90, 15};
+    EXPECT_EQ(MinimumSize(Group(frame, Item(a)), metrics), (Size{90, 50}));
+    metrics.sizes[&frame] = {40, 15};
+    EXPECT_EQ(MinimumSize(Group(frame, Item(a)), metrics), (Size{50, 50}));
+}
+
+TEST_F(LayoutTest, WhatAStackDoesNotShowNeedsNoRoom) {
+    const Layout whole = Row({Item(c), Stack({Group(frame, Item(a)), Item(b)})});
+    frame.SetVisible(false);
+    EXPECT_EQ(MinimumSize(OnView(whole), metrics), (Size{65, 10}));
+    frame.SetVisible(true);
+    b.SetVisible(false);
+    EXPECT_EQ(MinimumSize(OnView(whole), metrics), (Size{65, 50}));
+}
+
+TEST_F(LayoutTest, BesideAStackWhatIsHiddenKeepsItsPlace) {
+    const Layout whole = Row({Item(a), Item(b)});
+    b.SetVisible(false);
+    EXPECT_EQ(MinimumSize(OnView(whole), metrics), MinimumSize(whole, metrics));
+}
+
 TEST_F(LayoutTest, AStackTakesItsShareOfSpareRoom) {
     auto places = Places(Column({Item(a), Stack({Item(b, 1)}, 1)}), {0, 0, 50, 100});
     EXPECT_EQ(places[&b], (Rect{0, 25, 50, 75}));

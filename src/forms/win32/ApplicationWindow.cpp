@@ -4,6 +4,18 @@
 
 namespace velkarix {
 
+namespace {
+
+// Told by Windows XP and later when the theme is another.
+constexpr UINT ThemeChanged = 0x031A;
+
+bool ConcernsAppearance(UINT message) {
+    return message == WM_SYSCOLORCHANGE || message == WM_SETTINGCHANGE ||
+           message == WM_DISPLAYCHANGE || message == ThemeChanged;
+}
+
+}  // namespace
+
 ApplicationWindow::ApplicationWindow(DesktopContext& context, FormWindows& forms)
     : context_(context),
       forms_(forms),
@@ -27,9 +39,8 @@ LRESULT CALLBACK ApplicationWindow::Procedure(HWND window, UINT message, WPARAM 
         self->forms_.EndRemoved();
         return 0;
     }
-    if (self != nullptr && (message == WM_SYSCOLORCHANGE || message == WM_SETTINGCHANGE)) {
-        self->context_.palette.Reload();
-        self->forms_.AppearanceChanged();
+    if (self != nullptr && ConcernsAppearance(message)) {
+        self->forms_.AppearanceChanged(self->context_.ReloadAppearance());
     }
     return DefWindowProcA(window, message, wParam, lParam);
 }

@@ -20,10 +20,6 @@ Shade PanelWindow::ShadeOf(Panel::Look look) {
     return Shade::Face;
 }
 
-void PanelWindow::AppearanceChanged() {
-    InvalidateRect(Handle(), nullptr, FALSE);
-}
-
 LRESULT PanelWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_ERASEBKGND) return TRUE;  // the drawing covers all
     if (message == WM_PAINT) {

@@ -43,10 +43,6 @@ bool DrawnButtonWindow::OnEnter() {
     return true;
 }
 
-void DrawnButtonWindow::AppearanceChanged() {
-    InvalidateRect(Handle(), nullptr, FALSE);
-}
-
 LRESULT DrawnButtonWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_ERASEBKGND) return TRUE;  // the drawing covers all
     // The second of two quick clicks is a click as well.

@@ -36,7 +36,6 @@ class OptionWindow : public ClickableWindow {
 class DrawnButtonWindow : public ClickableWindow {
   public:
     bool OnEnter() override;
-    void AppearanceChanged() override;
 
   protected:
     DrawnButtonWindow(DesktopContext& context, Control& control, const ControlPlace& place);

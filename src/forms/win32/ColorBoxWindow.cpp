@@ -12,10 +12,6 @@ void ColorBoxWindow::Changed(Aspect aspect) {
     ControlWindow::Changed(aspect);
 }
 
-void ColorBoxWindow::AppearanceChanged() {
-    InvalidateRect(Handle(), nullptr, FALSE);
-}
-
 LRESULT ColorBoxWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_ERASEBKGND) return TRUE;  // the drawing covers all
     if (message == WM_KEYUP || message == WM_LBUTTONUP) keyReleased_ = message == WM_KEYUP;

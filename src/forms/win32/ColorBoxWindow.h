@@ -14,7 +14,6 @@ class ColorBoxWindow : public ControlWindow {
     void OnCommand(UINT notification) override;
     void OnDrawItem(const DRAWITEMSTRUCT& item) override;
     bool OnEnter() override;
-    void AppearanceChanged() override;
 
   protected:
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -13,7 +13,7 @@ constexpr DWORD Style = WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST;
 }  // namespace
 
 ComboBoxWindow::ComboBoxWindow(DesktopContext& context, ComboBox& box, const ControlPlace& place)
-    : ControlWindow(context, box, place, {"COMBOBOX", Style}), box_(box) {
+    : ControlWindow(context, box, place, {"COMBOBOX", Style, 0, true}), box_(box) {
     for (const std::string& entry : box.Entries()) {
         Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.c_str()));
     }

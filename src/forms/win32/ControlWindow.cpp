@@ -9,7 +9,10 @@ namespace velkarix {
 
 ControlWindow::ControlWindow(DesktopContext& context, Control& model, const ControlPlace& place,
                              const NativeKind& kind)
-    : context_(context), model_(model), ground_(place.ground) {
+    : context_(context),
+      model_(model),
+      ground_(place.ground),
+      nameLabel_(kind.namedByLabel ? MakeNameLabel(place) : nullptr) {
     DWORD style = WS_CHILD | WS_CLIPSIBLINGS | kind.style;
     if (place.startsGroup) style |= WS_GROUP;
     if (model.Shown()) style |= WS_VISIBLE;
@@ -25,6 +28,16 @@ ControlWindow::ControlWindow(DesktopContext& context, Control& model, const Cont
     Send(WM_SETFONT, reinterpret_cast<WPARAM>(context.fonts.Dialog()));
     if (!model.ToolTip().empty()) toolTip_.emplace(context.instance, handle_, model.ToolTip());
     model.AttachView(this);
+}
+
+// Never shown: it is looked for just before the control, and needn't be visible.
+HWND ControlWindow::MakeNameLabel(const ControlPlace& place) const {
+    return CreateWindowExA(0, "STATIC", model_.Text().c_str(), WS_CHILD | SS_LEFT | SS_NOPREFIX, 0,
+                           0, 0, 0, place.parent, nullptr, context_.instance, nullptr);
+}
+
+void ControlWindow::ShowName() const {
+    if (nameLabel_ != nullptr) SetWindowTextA(nameLabel_, model_.Text().c_str());
 }
 
 void ControlWindow::Detach() {
@@ -45,6 +58,10 @@ LRESULT CALLBACK ControlWindow::Procedure(HWND window, UINT message, WPARAM wPar
     auto* self = reinterpret_cast<ControlWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA));
     const ProcedureScope scope(self->context_);
     if (self->toolTip_) self->toolTip_->Relay(message, wParam, lParam);
+    // What is clicked isn't moved away from under the mouse.
+    if (message == WM_SETFOCUS && GetKeyState(VK_LBUTTON) >= 0) {
+        SendMessageA(GetParent(window), RevealMessage, 0, reinterpret_cast<LPARAM>(window));
+    }
     return self->OnMessage(message, wParam, lParam);
 }
 
@@ -60,6 +77,16 @@ HBRUSH ControlWindow::OnColour(HDC context) {
     return context_.palette.Brush(ground_);
 }
 
+// The common controls keep colours of the system that only top-level windows are told of.
+void ControlWindow::ColoursChanged() {
+    Send(WM_SYSCOLORCHANGE);
+    InvalidateRect(handle_, nullptr, TRUE);
+}
+
+void ControlWindow::FontsChanged() {
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(context_.fonts.Dialog()));
+}
+
 void ControlWindow::Move(const Rect& area) const {
     SetWindowPos(handle_, nullptr, area.x, area.y, area.width, area.height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
@@ -72,6 +99,7 @@ void ControlWindow::SendToBack() const {
 void ControlWindow::Changed(Aspect aspect) {
     switch (aspect) {
         case Aspect::Text:
+            ShowName();
             SetWindowTextA(handle_, model_.Text().c_str());
             return;
         case Aspect::Enabled:

@@ -25,6 +25,8 @@ struct NativeKind {
     const char* windowClass;
     DWORD style;
     DWORD extendedStyle = 0;
+    // Whether screen readers call it by the label before it and not by its own text.
+    bool namedByLabel = false;
 };
 
 class ControlWindow : public ControlView {
@@ -58,7 +60,9 @@ class ControlWindow : public ControlView {
     virtual bool OnEnter() { return false; }
     virtual bool OnEscape() { return false; }  // likewise, of Esc
     // The system's colours have changed.
-    virtual void AppearanceChanged() {}
+    virtual void ColoursChanged();
+    // The fonts of the desktop are others.
+    virtual void FontsChanged();
     // Whether other controls of the form stand on this one.
     virtual bool IsGround() const { return false; }
 
@@ -72,14 +76,17 @@ class ControlWindow : public ControlView {
     Shade Ground() const { return ground_; }
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     RECT ClientArea() const;
+    void ShowName() const;  // to screen readers, where a label does so
 
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void PassFocusOn() const;
+    HWND MakeNameLabel(const ControlPlace& place) const;
 
     DesktopContext& context_;
     Control& model_;
     Shade ground_;
+    HWND nameLabel_;  // null when the window's own text is its name
     HWND handle_;
     WNDPROC native_;
     std::optional<ToolTipWindow> toolTip_;

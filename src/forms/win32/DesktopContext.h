@@ -5,6 +5,7 @@
 
 #include "forms/win32/Dpi.h"
 #include "forms/win32/Fonts.h"
+#include "forms/win32/FormMessages.h"
 #include "forms/win32/Metrics.h"
 #include "forms/win32/Palette.h"
 #include "forms/win32/PendingRefreshes.h"
@@ -17,6 +18,14 @@ struct DesktopContext {
     explicit DesktopContext(HINSTANCE program) : instance(program) {}
     DesktopContext(const DesktopContext&) = delete;
     DesktopContext& operator=(const DesktopContext&) = delete;
+
+    // The system's colours, fonts or sizes may have changed. True when the fonts have.
+    bool ReloadAppearance() {
+        palette.Reload();
+        const bool otherFonts = fonts.Reload();
+        metrics.Reload();
+        return otherFonts;
+    }
 
     HINSTANCE instance;
     HWND applicationWindow = nullptr;
@@ -33,9 +42,6 @@ struct DesktopContext {
     // Destroyed forms wait for their windows' procedures to be left.
     bool formsWaitForEnd = false;
 };
-
-// Posted to the application window: destroyed forms may be able to go now.
-inline constexpr UINT EndFormsMessage = WM_APP;
 
 // The stay in the procedure of one of our windows.
 class ProcedureScope {

@@ -1,5 +1,6 @@
 #include "forms/win32/Fonts.h"
 
+#include <cstddef>
 #include <cstring>
 
 namespace velkarix {
@@ -21,6 +22,12 @@ LOGFONTA DialogFont(const Dpi& dpi) {
     return font;
 }
 
+// Behind the end of a name there may be anything.
+bool SameFont(const LOGFONTA& one, const LOGFONTA& other) {
+    return std::memcmp(&one, &other, offsetof(LOGFONTA, lfFaceName)) == 0 &&
+           std::strcmp(one.lfFaceName, other.lfFaceName) == 0;
+}
+
 Size Measured(HFONT font, const std::string& text, UINT format, int width = 0) {
     const ScreenContext screen;
     const Selection selection(screen, font);
@@ -32,8 +39,10 @@ Size Measured(HFONT font, const std::string& text, UINT format, int width = 0) {
 
 }  // namespace
 
-Fonts::Fonts(const Dpi& dpi) {
-    const LOGFONTA dialog = DialogFont(dpi);
+bool Fonts::Reload() {
+    const LOGFONTA dialog = DialogFont(dpi_);
+    if (dialog_ != nullptr && SameFont(dialog, system_)) return false;
+    system_ = dialog;
     dialog_.reset(CreateFontIndirectA(&dialog));
 
     LOGFONTA bold = dialog;
@@ -47,6 +56,7 @@ Fonts::Fonts(const Dpi& dpi) {
     LOGFONTA link = dialog;
     link.lfUnderline = TRUE;
     link_.reset(CreateFontIndirectA(&link));
+    return true;
 }
 
 Size CaptionExtent(HFONT font, const std::string& caption) {

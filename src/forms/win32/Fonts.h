@@ -11,13 +11,18 @@ namespace velkarix {
 
 class Fonts {
   public:
-    explicit Fonts(const Dpi& dpi);
+    explicit Fonts(const Dpi& dpi) : dpi_(dpi) { Reload(); }
+    // Asks the system anew. True when its font is another one: windows that show the former one
+    // are to be given theirs at once.
+    bool Reload();
     HFONT Dialog() const { return dialog_.get(); }
     HFONT Bold() const { return bold_.get(); }
     HFONT Title() const { return title_.get(); }
     HFONT Link() const { return link_.get(); }
 
   private:
+    const Dpi& dpi_;
+    LOGFONTA system_{};  // what all are made from
     OwnedFont dialog_;
     OwnedFont bold_;
     OwnedFont title_;

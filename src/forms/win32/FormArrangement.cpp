@@ -1,5 +1,7 @@
 #include "forms/win32/FormArrangement.h"
 
+#include <algorithm>
+
 #include "forms/Controls.h"
 #include "forms/win32/AreaWindows.h"
 
@@ -35,11 +37,39 @@ void MarkGrounds(const Layout& layout, Shade ground, std::map<const Control*, Sh
     for (const Layout& child : layout.children) MarkGrounds(child, ground, grounds);
 }
 
+// What scrolls its own text is of use in less room than it would like to have.
+class LeastMetrics : public LayoutMetrics {
+  public:
+    explicit LeastMetrics(Metrics& metrics) : metrics_(metrics) {}
+    Size PreferredSize(Control& control) override {
+        Size size = metrics_.PreferredSize(control);
+        if (dynamic_cast<const TextBox*>(&control) != nullptr) {
+            size.width = std::min(size.width, metrics_.InLetters(UsableTextBox));
+        }
+        return size;
+    }
+    Insets GroupInsets(Control& group) override { return metrics_.GroupInsets(group); }
+    int Gap() override { return metrics_.Gap(); }
+
+  private:
+    static constexpr int UsableTextBox = 120;
+    Metrics& metrics_;
+};
+
 }  // namespace
 
-std::vector<Placement> ArrangeForm(const Form& form, const Size& inside, Metrics& metrics) {
+Size LeastInside(const Form& form, Metrics& metrics) {
+    LeastMetrics least(metrics);
+    const Size layout = MinimumSize(OnView(form.FormLayout()), least);
     const Insets margins = metrics.FormMargins(form.Kind());
-    const Rect area{margins.left, margins.top, inside.width - margins.left - margins.right,
+    return {layout.width + margins.left + margins.right,
+            layout.height + margins.top + margins.bottom};
+}
+
+std::vector<Placement> ArrangeForm(const Form& form, const Rect& inside, Metrics& metrics) {
+    const Insets margins = metrics.FormMargins(form.Kind());
+    const Rect area{inside.x + margins.left, inside.y + margins.top,
+                    inside.width - margins.left - margins.right,
                     inside.height - margins.top - margins.bottom};
     std::vector<Placement> placements = Arrange(form.FormLayout(), area, metrics);
     JoinStripsToBanner(placements, metrics.Gap());

@@ -10,8 +10,10 @@
 
 namespace velkarix {
 
-// The places of all controls in a window whose inside has that size.
-std::vector<Placement> ArrangeForm(const Form& form, const Size& inside, Metrics& metrics);
+// The least inside of a window that shows all that is on view now.
+Size LeastInside(const Form& form, Metrics& metrics);
+// The places of all controls of a form that has that place in its window.
+std::vector<Placement> ArrangeForm(const Form& form, const Rect& inside, Metrics& metrics);
 
 // The ground of each control of a layout.
 std::map<const Control*, Shade> GroundsOf(const Layout& layout);

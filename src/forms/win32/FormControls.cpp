@@ -35,7 +35,7 @@ FormControls::FormControls(DesktopContext& context, const Form& form, HWND paren
     : context_(context), form_(form) {
     RECT client{};
     GetClientRect(parent, &client);
-    const auto placements = ArrangeForm(form, {client.right, client.bottom}, context.metrics);
+    const auto placements = ArrangeForm(form, {0, 0, client.right, client.bottom}, context.metrics);
     const auto grounds = GroundsOf(form.FormLayout());
     const Control* previous = nullptr;
     for (Control* control : form.Controls()) {
@@ -57,7 +57,7 @@ FormControls::FormControls(DesktopContext& context, const Form& form, HWND paren
     }
 }
 
-void FormControls::Arrange(const Size& inside) const {
+void FormControls::Arrange(const Rect& inside) const {
     for (const Placement& placement : ArrangeForm(form_, inside, context_.metrics)) {
         if (const ControlWindow* window = WindowOf(*placement.control)) {
             window->Move(placement.area);
@@ -81,8 +81,11 @@ void FormControls::Detach() const {
     for (const auto& window : windows_) window->Detach();
 }
 
-void FormControls::AppearanceChanged() const {
-    for (const auto& window : windows_) window->AppearanceChanged();
+void FormControls::AppearanceChanged(bool otherFonts) const {
+    for (const auto& window : windows_) {
+        if (otherFonts) window->FontsChanged();
+        window->ColoursChanged();
+    }
 }
 
 bool ServeControlMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {

@@ -13,14 +13,14 @@ class FormControls {
   public:
     // Makes them inside `parent`, in tab order.
     FormControls(DesktopContext& context, const Form& form, HWND parent);
-    // Places them in a window whose inside has that size.
-    void Arrange(const Size& inside) const;
+    // Places them in a form that has that place in its window.
+    void Arrange(const Rect& inside) const;
     // Null when the control isn't of this form.
     ControlWindow* WindowOf(const Control& control) const;
     // The window of the form's default button; null when it has none.
     HWND DefaultButton() const;
     void Detach() const;
-    void AppearanceChanged() const;
+    void AppearanceChanged(bool otherFonts) const;
 
   private:
     DesktopContext& context_;

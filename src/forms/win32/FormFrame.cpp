@@ -35,8 +35,8 @@ FormFrame MainFrame(const Form& form, DesktopContext& context) {
     FormFrame frame{WS_OVERLAPPEDWINDOW, WS_EX_APPWINDOW, {}};
     const RECT least = MinimumOutside(form, frame, context);
     const RECT screen = WorkArea();
-    const LONG width = std::max<LONG>(context.dpi.Pixels(MainWidthAt96), Width(least));
-    const LONG height = std::max<LONG>(context.dpi.Pixels(MainHeightAt96), Height(least));
+    const LONG width = std::max<LONG>(context.metrics.InLetters(MainWidthAt96), Width(least));
+    const LONG height = std::max<LONG>(context.metrics.InLetters(MainHeightAt96), Height(least));
     frame.outside =
         Centred(std::min(width, Width(screen)), std::min(height, Height(screen)), screen, screen);
     return frame;
@@ -50,7 +50,10 @@ FormFrame PageFrame(HWND host) {
 
 FormFrame DialogFrame(const Form& form, DesktopContext& context) {
     FormFrame frame{WS_POPUP | WS_CAPTION | WS_SYSMENU, WS_EX_DLGMODALFRAME, {}};
-    frame.outside = MinimumOutside(form, frame, context);
+    const RECT least = MinimumOutside(form, frame, context);
+    const RECT screen = WorkArea();
+    frame.outside = {0, 0, std::min(Width(least), Width(screen)),
+                     std::min(Height(least), Height(screen))};
     return frame;
 }
 
@@ -65,11 +68,15 @@ FormFrame FrameOf(const Form& form, HWND parent, DesktopContext& context) {
     return frame;
 }
 
-void FitDialog(HWND window, const Form& form, DesktopContext& context) {
-    const RECT outside = DialogFrame(form, context).outside;
-    const LONG width = std::min(Width(outside), Width(WorkArea()));
-    SetWindowPos(window, nullptr, 0, 0, width, Height(outside),
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+void FitFrame(HWND window, const Form& form, DesktopContext& context) {
+    if (form.Kind() == FormKind::Page || IsIconic(window) != FALSE) return;
+    const RECT outside = FrameOf(form, nullptr, context).outside;
+    RECT former{};
+    GetWindowRect(window, &former);
+    if (Width(outside) == Width(former) && Height(outside) == Height(former)) return;
+    const RECT place = Centred(Width(outside), Height(outside), former, WorkArea());
+    SetWindowPos(window, nullptr, place.left, place.top, Width(place), Height(place),
+                 SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void CentreOver(HWND window, HWND other) {

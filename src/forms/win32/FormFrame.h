@@ -15,8 +15,9 @@ struct FormFrame {
 // `parent` is the host of a page and the owner of another form.
 FormFrame FrameOf(const Form& form, HWND parent, DesktopContext& context);
 
-// Gives a dialog the size that its texts need now; its form may have set some as it loaded.
-void FitDialog(HWND window, const Form& form, DesktopContext& context);
+// Gives a form's window the size that its texts need now, about the same middle: its form may have
+// set some as it loaded, or the fonts are others. A page has what room its host gives.
+void FitFrame(HWND window, const Form& form, DesktopContext& context);
 
 // Moves a window over the middle of another, or of the screen when that isn't shown; not beyond
 // the edges of the screen.

@@ -1,5 +1,6 @@
 #include "forms/win32/FormWindow.h"
 
+#include "forms/win32/FormArrangement.h"
 #include "forms/win32/FormFrame.h"
 #include "forms/win32/Icons.h"
 #include "forms/win32/WindowClasses.h"
@@ -13,6 +14,8 @@ namespace {
 constexpr UINT ChangeUiState = 0x0127;
 constexpr WPARAM ClearUiState = 2;
 constexpr WPARAM FocusAndAccessKeys = 1 | 2;
+
+constexpr UINT MouseWheel = 0x020A;  // of Windows 98 and NT 4 and later
 
 }  // namespace
 
@@ -56,9 +59,31 @@ void FormWindow::Detach() {
     ShowWindow(handle_, SW_HIDE);
 }
 
-void FormWindow::AppearanceChanged() {
-    controls_->AppearanceChanged();
+void FormWindow::AppearanceChanged(bool otherFonts) {
+    controls_->AppearanceChanged(otherFonts);
+    FitFrame(handle_, form_, context_);
+    ArrangeControls();
     RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void FormWindow::ArrangeControls() {
+    if (scroll_.Fitting()) return;
+    controls_->Arrange(scroll_.PlaceFor(handle_, LeastInside(form_, context_.metrics)));
+}
+
+// True when the controls have other places now.
+bool FormWindow::OnScrolling(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_HSCROLL:
+        case WM_VSCROLL:
+            return scroll_.OnScroll(handle_, message, wParam);
+        case MouseWheel:
+            return scroll_.OnWheel(handle_, wParam);
+        case RevealMessage:
+            return scroll_.Reveal(handle_, reinterpret_cast<HWND>(lParam));
+        default:
+            return message == OtherViewMessage;
+    }
 }
 
 void FormWindow::CaptionChanged() {
@@ -81,10 +106,18 @@ LRESULT CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wParam,
 }
 
 LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (OnScrolling(message, wParam, lParam)) {
+        ArrangeControls();
+        return 0;
+    }
     switch (message) {
         case WM_SIZE:
-            if (wParam != SIZE_MINIMIZED) controls_->Arrange({LOWORD(lParam), HIWORD(lParam)});
+            if (wParam != SIZE_MINIMIZED) ArrangeControls();
             return 0;
+        case WM_SHOWWINDOW:
+            // Its form may have set texts as it loaded.
+            if (wParam != FALSE) ArrangeControls();
+            break;
         case WM_TIMER:
             timers_->OnTimer(wParam);
             return 0;

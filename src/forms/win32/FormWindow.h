@@ -6,6 +6,7 @@
 #include "forms/Form.h"
 #include "forms/win32/FormControls.h"
 #include "forms/win32/FormFocus.h"
+#include "forms/win32/FormScroll.h"
 #include "forms/win32/FormTimers.h"
 #include "forms/win32/Handles.h"
 
@@ -28,8 +29,8 @@ class FormWindow : public Form::View {
     const FormControls& Controls() const { return *controls_; }
     // Parts the window from its form, which may go at once; the window is dead and hidden.
     void Detach();
-    // The system's colours have changed.
-    void AppearanceChanged();
+    // The system's colours or sizes have changed, and its fonts if that is said.
+    void AppearanceChanged(bool otherFonts);
 
     void CaptionChanged() override;
     void CloseAsked() override;
@@ -37,6 +38,8 @@ class FormWindow : public Form::View {
   private:
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
     void OnActivate(bool active);
+    void ArrangeControls();
+    bool OnScrolling(UINT message, WPARAM wParam, LPARAM lParam);
     void SetIcons();
 
     DesktopContext& context_;
@@ -46,6 +49,7 @@ class FormWindow : public Form::View {
     std::unique_ptr<FormControls> controls_;
     std::unique_ptr<FormTimers> timers_;
     FormFocus focus_;
+    FormScroll scroll_;
     OwnedIcon largeIcon_;
     OwnedIcon smallIcon_;
 };

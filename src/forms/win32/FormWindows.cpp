@@ -76,8 +76,8 @@ ControlWindow* FormWindows::WindowOf(const Control& control) const {
     return nullptr;
 }
 
-void FormWindows::AppearanceChanged() const {
-    for (const auto& each : windows_) each->AppearanceChanged();
+void FormWindows::AppearanceChanged(bool otherFonts) const {
+    for (const auto& each : windows_) each->AppearanceChanged(otherFonts);
 }
 
 }  // namespace velkarix

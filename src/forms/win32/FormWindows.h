@@ -29,7 +29,8 @@ class FormWindows {
     FormWindow* PageIn(const FormWindow& form) const;
     ControlWindow* WindowOf(const Control& control) const;
 
-    void AppearanceChanged() const;
+    // The system's colours or sizes have changed, and its fonts if that is said.
+    void AppearanceChanged(bool otherFonts) const;
 
   private:
     DesktopContext& context_;

@@ -20,7 +20,7 @@ constexpr DWORD Style =
 
 ListViewWindow::ListViewWindow(DesktopContext& context, ListView& list, const ControlPlace& place)
     : ControlWindow(context, list, place,
-                    {WC_LISTVIEWA, Style | ListModeStyle(list.Mode()), WS_EX_CLIENTEDGE}),
+                    {WC_LISTVIEWA, Style | ListModeStyle(list.Mode()), WS_EX_CLIENTEDGE, true}),
       list_(list),
       images_(context.instance, context.metrics.SmallImage()),
       largeImages_(context.instance, GetSystemMetrics(SM_CXICON)) {
@@ -30,7 +30,13 @@ ListViewWindow::ListViewWindow(DesktopContext& context, ListView& list, const Co
         Send(LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK);
     }
     InsertColumns(Handle(), list);
+    SpaceIcons();
     context.pending.Add(*this);
+}
+
+void ListViewWindow::SpaceIcons() const {
+    const Size spacing = Context().metrics.IconSpacing();
+    Send(LVM_SETICONSPACING, 0, MAKELPARAM(spacing.width, spacing.height));
 }
 
 void ListViewWindow::Detach() {
@@ -104,9 +110,20 @@ void ListViewWindow::ShowSelection() {
     if (selectionChanged_ || modeChanged_) Send(LVM_ENSUREVISIBLE, position, FALSE);
 }
 
-void ListViewWindow::AppearanceChanged() {
-    Send(WM_SYSCOLORCHANGE);
-    InvalidateRect(Handle(), nullptr, TRUE);
+// Not every native list follows the system by itself.
+void ListViewWindow::ColoursChanged() {
+    const COLORREF ground = GetSysColor(COLOR_WINDOW);
+    Send(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(ground));
+    Send(LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(ground));
+    Send(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(GetSysColor(COLOR_WINDOWTEXT)));
+    ControlWindow::ColoursChanged();
+}
+
+void ListViewWindow::FontsChanged() {
+    ControlWindow::FontsChanged();
+    SpaceIcons();
+    fitWanted_ = true;
+    Context().pending.Add(*this);
 }
 
 LRESULT ListViewWindow::OnNotify(NMHDR& header) {
@@ -115,7 +132,7 @@ LRESULT ListViewWindow::OnNotify(NMHDR& header) {
             DescribeRow(list_, reinterpret_cast<NMLVDISPINFOA&>(header).item);
             return 0;
         case NM_CUSTOMDRAW:
-            return MarkDrawnRow(list_, Context().fonts, reinterpret_cast<NMLVCUSTOMDRAW&>(header));
+            return OnDraw(reinterpret_cast<NMLVCUSTOMDRAW&>(header));
         case LVN_ODFINDITEMA:
             return FindRow(list_, reinterpret_cast<NMLVFINDITEMA&>(header));
         case LVN_ODFINDITEMW:
@@ -141,6 +158,29 @@ LRESULT ListViewWindow::OnNotify(NMHDR& header) {
     }
 }
 
+LRESULT ListViewWindow::OnDraw(NMLVCUSTOMDRAW& draw) const {
+    if (draw.nmcd.dwDrawStage == CDDS_POSTPAINT) {
+        RECT area = ClientArea();
+        if (list_.Mode() == ListMode::Details) {
+            RECT header{};
+            GetClientRect(reinterpret_cast<HWND>(Send(LVM_GETHEADER)), &header);
+            area.top += header.bottom;
+        }
+        SetTextColor(draw.nmcd.hdc, RGB(0, 0, 0));
+        SetBkColor(draw.nmcd.hdc, RGB(255, 255, 255));
+        DrawFocusRect(draw.nmcd.hdc, &area);
+        return CDRF_DODEFAULT;
+    }
+    const LRESULT answer = MarkDrawnRow(list_, Context().fonts, draw);
+    const bool first = draw.nmcd.dwDrawStage == CDDS_PREPAINT;
+    return first && ShowsFocusItself() ? answer | CDRF_NOTIFYPOSTPAINT : answer;
+}
+
+// Where no row has the mark of the focus, the list itself shows it.
+bool ListViewWindow::ShowsFocusItself() const {
+    return GetFocus() == Handle() && FocusedPosition() < 0;
+}
+
 LRESULT ListViewWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     // The header's own context menu would come by here as well.
     if (message == WM_CONTEXTMENU && reinterpret_cast<HWND>(wParam) == Handle()) {
@@ -153,7 +193,10 @@ LRESULT ListViewWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     }
     if (message == WM_CHAR && wParam == ' ') return 0;
-    return ControlWindow::OnMessage(message, wParam, lParam);
+    const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
+    const bool focusMoved = message == WM_SETFOCUS || message == WM_KILLFOCUS;
+    if (focusMoved && FocusedPosition() < 0) InvalidateRect(Handle(), nullptr, TRUE);
+    return result;
 }
 
 // What the program selected is the model's already, as is a row that the native list selects anew.

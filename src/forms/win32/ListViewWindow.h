@@ -15,7 +15,8 @@ class ListViewWindow : public ControlWindow, private Refreshable {
     void Detach() override;
     void Changed(Aspect aspect) override;
     LRESULT OnNotify(NMHDR& header) override;
-    void AppearanceChanged() override;
+    void ColoursChanged() override;
+    void FontsChanged() override;
 
   protected:
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -23,6 +24,7 @@ class ListViewWindow : public ControlWindow, private Refreshable {
   private:
     // The window catches up with the model.
     void Refresh() override;
+    void SpaceIcons() const;
     void ShowImages(int kind, const ImageList* images, ListImages& shown) const;
     void ShowSelection();
 
@@ -35,6 +37,8 @@ class ListViewWindow : public ControlWindow, private Refreshable {
 
     bool ToggleIfOnCheckBox(const POINT& point);
     void Toggle(int position);
+    LRESULT OnDraw(NMLVCUSTOMDRAW& draw) const;
+    bool ShowsFocusItself() const;
     int FocusedPosition() const;  // -1 when no row has the focus
     POINT BesideFocusedRow() const;
 

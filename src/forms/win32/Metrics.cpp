@@ -12,24 +12,34 @@ namespace velkarix {
 
 namespace {
 
-// A paragraph's least width, in average letters: as high as it is there, it has room for all of its
-// lines in any wider place.
-constexpr int ParagraphCharacters = 60;
-
-const Spacing& SpacingFor(const RECT& workArea, const Dpi& dpi) {
-    const bool roomy =
-        Width(workArea) >= dpi.Pixels(RoomyWidth) && Height(workArea) >= dpi.Pixels(RoomyHeight);
-    return roomy ? Roomy : Tight;
-}
+// The mean letter of the font that the system has for dialogs as it comes, at 96 DPI.
+constexpr int UsualLetter = 6;
 
 }  // namespace
 
-Metrics::Metrics(const Dpi& dpi, const Fonts& fonts)
-    : dpi_(dpi), fonts_(fonts), spacing_(SpacingFor(WorkArea(), dpi)) {}
+void Metrics::Reload() {
+    letter_ = AverageCharacterWidth(fonts_.Dialog());
+    const RECT area = WorkArea();
+    const auto hasRoom = [&](const Room& room) {
+        return Width(area) >= InLetters(room.width) && Height(area) >= InLetters(room.height);
+    };
+    spacing_ = hasRoom(RoomForRoomy) ? &Roomy : hasRoom(RoomForTight) ? &Tight : &Tightest;
+    natives_.reset();
+}
+
+int Metrics::InLetters(int at96) const {
+    return std::max(dpi_.Pixels(at96), MulDiv(at96, letter_, UsualLetter));
+}
 
 int Metrics::PictureSize(Button::Look look) const {
     const bool small = look == Button::Look::SmallPicture;
-    return dpi_.Pixels(small ? spacing_.viewPicture : spacing_.pagePicture);
+    return dpi_.Pixels(small ? spacing_->viewPicture : spacing_->pagePicture);
+}
+
+// As the system has it, but the names are to have their room.
+Size Metrics::IconSpacing() const {
+    return {std::max(GetSystemMetrics(SM_CXICONSPACING), InLetters(75)),
+            std::max(GetSystemMetrics(SM_CYICONSPACING), InLetters(75))};
 }
 
 Size Metrics::PreferredSize(Control& control) {
@@ -45,7 +55,7 @@ Insets Metrics::GroupInsets(Control& group) {
 }
 
 Insets Metrics::FormMargins(FormKind kind) {
-    const int margin = dpi_.Pixels(spacing_.margin);
+    const int margin = dpi_.Pixels(spacing_->margin);
     // The layout of the main form keeps a gap at the left of and above its page already.
     const int besideGap = margin - Gap();
     if (kind == FormKind::Page) return {besideGap, besideGap, margin, margin};
@@ -61,7 +71,7 @@ const NativeMeasures& Metrics::Natives() {
 Size Metrics::PictureButton(const Button& control) const {
     const Size caption = CaptionExtent(fonts_.Dialog(), control.Text());
     const int picture = PictureSize(control.ButtonLook());
-    return {std::max(picture, caption.width) + dpi_.Pixels(spacing_.pictureSides),
+    return {std::max(picture, caption.width) + dpi_.Pixels(spacing_->pictureSides),
             picture + caption.height + 3 * ButtonPadding()};
 }
 
@@ -71,8 +81,8 @@ void Metrics::Visit(Button& control) {
         return;
     }
     const Size caption = CaptionExtent(fonts_.Dialog(), control.Text());
-    size_ = {std::max(dpi_.Pixels(spacing_.buttonWidth),
-                      caption.width + dpi_.Pixels(spacing_.buttonSides)),
+    size_ = {std::max(dpi_.Pixels(spacing_->buttonWidth),
+                      caption.width + dpi_.Pixels(spacing_->buttonSides)),
              std::max(dpi_.Pixels(23), caption.height + dpi_.Pixels(8))};
 }
 
@@ -99,9 +109,12 @@ void Metrics::Visit(ComboBox& control) {
     size_ = {widest + GetSystemMetrics(SM_CXVSCROLL) + dpi_.Pixels(12), Natives().boxHeight};
 }
 
-void Metrics::Visit(Frame&) {
-    const int edge = dpi_.Pixels(spacing_.frameEdge);
-    insets_ = {edge, CaptionExtent(fonts_.Dialog(), {}).height + dpi_.Pixels(6), edge, edge};
+void Metrics::Visit(Frame& control) {
+    const int edge = dpi_.Pixels(spacing_->frameEdge);
+    const Size caption = CaptionExtent(fonts_.Dialog(), control.Text());
+    insets_ = {edge, caption.height + dpi_.Pixels(6), edge, edge};
+    // The native frame begins its caption a little to the right.
+    size_ = {caption.width + dpi_.Pixels(16), caption.height};
 }
 
 void Metrics::Visit(Panel& control) {
@@ -116,7 +129,8 @@ void Metrics::Visit(Panel& control) {
 
 void Metrics::Visit(Label& control) {
     if (control.LabelLook() == Label::Look::Paragraph) {
-        const int width = ParagraphCharacters * AverageCharacterWidth(fonts_.Dialog());
+        // As high as it is there, it has room for all of its lines in any wider place.
+        const int width = spacing_->paragraph * letter_;
         size_ = ParagraphExtent(fonts_.Dialog(), control.Text(), width);
         return;
     }
@@ -147,15 +161,16 @@ void Metrics::Visit(PictureBox& control) {
 
 void Metrics::Visit(TabStrip&) {
     const Insets& around = Natives().aroundTabPage;
-    const int edge = dpi_.Pixels(spacing_.tabEdge);
+    const int edge = dpi_.Pixels(spacing_->tabEdge);
     insets_ = {around.left + edge, around.top + edge, around.right + edge, around.bottom + edge};
 }
 
 void Metrics::Visit(TextBox& control) {
     const TextBox::Shape& shape = control.BoxShape();
     const int line = CaptionExtent(fonts_.Dialog(), {}).height;
+    // The text stands at the upper edge, so that more room would be seen below it alone.
     size_ = {shape.widthInCharacters * AverageCharacterWidth(fonts_.Dialog()) + dpi_.Pixels(12),
-             shape.lines * line + dpi_.Pixels(8)};
+             shape.lines * line + 2 * GetSystemMetrics(SM_CYEDGE) + 2 + dpi_.Pixels(2)};
 }
 
 // As if all nodes were open.

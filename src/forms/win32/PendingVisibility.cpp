@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/win32/FormMessages.h"
 #include "forms/win32/WindowTree.h"
 
 namespace velkarix {
@@ -28,6 +29,7 @@ void PendingVisibility::Refresh() {
         std::vector<Change> siblings(changes_.begin(), others);
         changes_.erase(changes_.begin(), others);
         Apply(siblings);
+        SendMessageA(parent, OtherViewMessage, 0, 0);
         const bool lost = std::any_of(siblings.begin(), siblings.end(), [&](const Change& each) {
             return each.window == focus && !each.shown;
         });

@@ -14,13 +14,19 @@ struct Spacing {
     int markWidth;     // of the mark at the edge of the current picture button
     int pagePicture;   // edge of the picture on a page's button
     int viewPicture;   // likewise on a button of a longer strip
+    int paragraph;     // least width of a paragraph, in average letters
 };
 
-inline constexpr Spacing Roomy{7, 11, 9, 5, 20, 75, 16, 4, 48, 24};
-inline constexpr Spacing Tight{4, 6, 5, 2, 8, 60, 10, 3, 32, 16};
+inline constexpr Spacing Roomy{7, 11, 9, 5, 20, 75, 16, 4, 48, 24, 60};
+inline constexpr Spacing Tight{4, 6, 5, 2, 8, 60, 10, 3, 32, 16, 60};
+inline constexpr Spacing Tightest{3, 4, 4, 1, 8, 40, 6, 3, 16, 16, 32};
 
-// The least work area that has room for the roomy one.
-inline constexpr int RoomyWidth = 760;
-inline constexpr int RoomyHeight = 560;
+// The least work area that has room for the roomy one, and for the tight one.
+struct Room {
+    int width;
+    int height;
+};
+inline constexpr Room RoomForRoomy{760, 560};
+inline constexpr Room RoomForTight{560, 400};
 
 }  // namespace velkarix

@@ -6,9 +6,14 @@
 namespace velkarix {
 
 LabelWindow::LabelWindow(DesktopContext& context, Label& label, const ControlPlace& place)
-    : ControlWindow(context, label, place, {"STATIC", SS_LEFT | SS_NOPREFIX}) {
-    if (label.LabelLook() != Label::Look::Title) return;
-    Send(WM_SETFONT, reinterpret_cast<WPARAM>(context.fonts.Title()));
+    : ControlWindow(context, label, place, {"STATIC", SS_LEFT | SS_NOPREFIX}), label_(label) {
+    LabelWindow::FontsChanged();
+}
+
+void LabelWindow::FontsChanged() {
+    const Fonts& fonts = Context().fonts;
+    const bool title = label_.LabelLook() == Label::Look::Title;
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(title ? fonts.Title() : fonts.Dialog()));
 }
 
 FrameWindow::FrameWindow(DesktopContext& context, Frame& frame, const ControlPlace& place)

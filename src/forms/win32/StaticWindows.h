@@ -10,6 +10,10 @@ namespace velkarix {
 class LabelWindow : public ControlWindow {
   public:
     LabelWindow(DesktopContext& context, Label& label, const ControlPlace& place);
+    void FontsChanged() override;
+
+  private:
+    Label& label_;
 };
 
 class FrameWindow : public ControlWindow {

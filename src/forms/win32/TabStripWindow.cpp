@@ -5,7 +5,7 @@
 namespace velkarix {
 
 TabStripWindow::TabStripWindow(DesktopContext& context, TabStrip& strip, const ControlPlace& place)
-    : ControlWindow(context, strip, place, {WC_TABCONTROLA, WS_TABSTOP}), strip_(strip) {
+    : ControlWindow(context, strip, place, {WC_TABCONTROLA, WS_TABSTOP, 0, true}), strip_(strip) {
     int position = 0;
     for (std::string caption : strip.Captions()) {
         TCITEMA item{};

@@ -20,7 +20,7 @@ DWORD StyleOf(const TextBox::Shape& shape) {
 }  // namespace
 
 TextBoxWindow::TextBoxWindow(DesktopContext& context, TextBox& box, const ControlPlace& place)
-    : ControlWindow(context, box, place, {"EDIT", StyleOf(box.BoxShape()), WS_EX_CLIENTEDGE}),
+    : ControlWindow(context, box, place, {"EDIT", StyleOf(box.BoxShape()), WS_EX_CLIENTEDGE, true}),
       box_(box) {
     Send(EM_LIMITTEXT);  // as much as the system can
     ShowValue();
@@ -29,7 +29,11 @@ TextBoxWindow::TextBoxWindow(DesktopContext& context, TextBox& box, const Contro
 void TextBoxWindow::Changed(Aspect aspect) {
     if (aspect == Aspect::Value) ShowValue();
     // The window's text is the value; the control's text is only spoken.
-    if (aspect != Aspect::Text) ControlWindow::Changed(aspect);
+    if (aspect == Aspect::Text) {
+        ShowName();
+    } else {
+        ControlWindow::Changed(aspect);
+    }
 }
 
 void TextBoxWindow::ShowValue() {

@@ -28,7 +28,7 @@ bool MaySelect(UINT message) {
 }  // namespace
 
 TreeViewWindow::TreeViewWindow(DesktopContext& context, TreeView& tree, const ControlPlace& place)
-    : ControlWindow(context, tree, place, {WC_TREEVIEWA, Style, WS_EX_CLIENTEDGE}),
+    : ControlWindow(context, tree, place, {WC_TREEVIEWA, Style, WS_EX_CLIENTEDGE, true}),
       tree_(tree),
       images_(context.instance, context.metrics.SmallImage()) {
     context.pending.Add(*this);
@@ -86,11 +86,6 @@ int TreeViewWindow::ImageOf(const std::string& picture) {
 void TreeViewWindow::ShowSelection() {
     if (SelectedNode() == tree_.SelectedNode()) return;
     Send(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(ItemOf(tree_.SelectedNode())));
-}
-
-void TreeViewWindow::AppearanceChanged() {
-    Send(WM_SYSCOLORCHANGE);
-    InvalidateRect(Handle(), nullptr, TRUE);
 }
 
 LRESULT TreeViewWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {

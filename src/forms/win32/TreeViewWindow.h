@@ -18,7 +18,6 @@ class TreeViewWindow : public ControlWindow, private Refreshable {
     TreeViewWindow(DesktopContext& context, TreeView& tree, const ControlPlace& place);
     void Detach() override;
     void Changed(Aspect aspect) override;
-    void AppearanceChanged() override;
 
   protected:
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

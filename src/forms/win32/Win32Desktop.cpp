@@ -89,7 +89,7 @@ void Win32Desktop::ShowModal(Form& form, Form& owner) {
     if (dialog == nullptr || below == nullptr || form.Closing()) return;
     const HWND around = TopLevelOf(below->Handle());
     SetWindowLongPtrA(dialog->Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(around));
-    FitDialog(dialog->Handle(), form, windows_->context);
+    FitFrame(dialog->Handle(), form, windows_->context);
     CentreOver(dialog->Handle(), around);
     const bool wasEnabled = EnableWindow(around, FALSE) == FALSE;
     windows_->dialogs.push_back(dialog->Handle());

@@ -9,6 +9,12 @@ inline constexpr const char* ReadMenuQuestion = "Velkarix.Test.ReadMenu";
 inline constexpr const char* CountUserObjectsQuestion = "Velkarix.Test.CountUserObjects";
 inline constexpr const char* CutTextsQuestion = "Velkarix.Test.CutTexts";
 
+// Sets what the user sets in the control panel, so that the program hears of it, and gives what it
+// was before. A colour of the system: its index in the upper 8 bits of the number, the colour in
+// the lower 24. The height of the letters in dialogs, in pixels.
+inline constexpr const char* SetColourQuestion = "Velkarix.Test.SetColour";
+inline constexpr const char* SetFontQuestion = "Velkarix.Test.SetFont";
+
 // With a number: see EndAtChange.h. The answer is empty where it can't be done.
 inline constexpr const char* EndAtChangeQuestion = "Velkarix.Test.EndAtChange";
 inline constexpr unsigned EndedAtChange = 77;  // the exit code of a program that was ended so

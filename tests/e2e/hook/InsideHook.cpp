@@ -1,6 +1,6 @@
 // Runs inside the program under test and answers what can't be seen from outside: the items of
-// its menus, how many windows, menus and icons it has, and which texts don't fit their place. Ends
-// the program where it is asked to.
+// its menus, how many windows, menus and icons it has, and which texts don't fit their place. Sets
+// colours and fonts, and ends the program where it is asked to.
 #include <windows.h>
 
 #include <cstdint>
@@ -137,6 +137,26 @@ std::string CutTexts(HWND window) {
     return lines;
 }
 
+// Wine tells other processes neither of colours nor of fonts that are set while they run.
+std::string SetColour(WPARAM number) {
+    const int index = static_cast<int>(number >> 24);
+    const COLORREF colour = number & 0xFFFFFF;
+    const DWORD before = GetSysColor(index);
+    SetSysColors(1, &index, &colour);
+    return std::to_string(before);
+}
+
+std::string SetFont(WPARAM height) {
+    NONCLIENTMETRICSA metrics{};
+    metrics.cbSize = sizeof metrics;
+    SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+    const LONG before = -metrics.lfMessageFont.lfHeight;
+    metrics.lfMessageFont.lfHeight = -static_cast<LONG>(height);
+    SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof metrics, &metrics,
+                          SPIF_UPDATEINIFILE | SPIF_SENDCHANGE);
+    return std::to_string(before);
+}
+
 void Answer(const std::string& text) {
     const HANDLE mapping = OpenFileMappingA(FILE_MAP_WRITE, FALSE, AnswerMemoryName);
     if (mapping == nullptr) return;
@@ -154,6 +174,8 @@ extern "C" __declspec(dllexport) LRESULT CALLBACK
     static const UINT readMenu = RegisterWindowMessageA(ReadMenuQuestion);
     static const UINT countUserObjects = RegisterWindowMessageA(CountUserObjectsQuestion);
     static const UINT cutTexts = RegisterWindowMessageA(CutTextsQuestion);
+    static const UINT setColour = RegisterWindowMessageA(SetColourQuestion);
+    static const UINT setFont = RegisterWindowMessageA(SetFontQuestion);
     static const UINT endAtChange = RegisterWindowMessageA(EndAtChangeQuestion);
     static const UINT countMemory = RegisterWindowMessageA(CountMemoryQuestion);
     static const UINT skipSaveDialog = RegisterWindowMessageA(SkipSaveDialogQuestion);
@@ -168,6 +190,8 @@ extern "C" __declspec(dllexport) LRESULT CALLBACK
         if (sent->message == loadPlanted) {
             Answer(LoadLibraryA(PlantedName) != nullptr ? IsLoaded : IsNotFound);
         }
+        if (sent->message == setColour) Answer(SetColour(sent->wParam));
+        if (sent->message == setFont) Answer(SetFont(sent->wParam));
         if (sent->message == endAtChange) {
             Answer(EndAtChange(static_cast<int>(sent->wParam)) ? "ready" : "");
         }

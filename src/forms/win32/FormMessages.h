@@ -1,0 +1,15 @@
+// What the windows of the forms tell each other.
+#pragma once
+
+#include "forms/win32/WindowsHeaders.h"
+
+namespace velkarix {
+
+// Posted to the application window: destroyed forms may be able to go now.
+inline constexpr UINT EndFormsMessage = WM_APP;
+// Sent to a form's window: a control, the second argument, got the focus and wants to be seen.
+inline constexpr UINT RevealMessage = WM_APP + 1;
+// Sent to a form's window: other controls of it are on view.
+inline constexpr UINT OtherViewMessage = WM_APP + 2;
+
+}  // namespace velkarix
