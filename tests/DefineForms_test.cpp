@@ -3,9 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <functional>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "tests/forms/LayoutLint.h"
 #include "tests/machine/TestProgram.h"
@@ -48,16 +51,58 @@ TEST_P(EveryForm, NamesItsControlsUniquely) {
     });
 }
 
+// A label is its words, which may be a fact that isn't there.
 TEST_P(EveryForm, GivesItsControlsWordsForAScreenReader) {
     Look([](Form& form) {
         for (const Control* control : form.Controls()) {
-            const bool needsWords = dynamic_cast<const Button*>(control) != nullptr ||
-                                    dynamic_cast<const ListView*>(control) != nullptr ||
-                                    dynamic_cast<const TextBox*>(control) != nullptr ||
-                                    dynamic_cast<const OptionButton*>(control) != nullptr ||
-                                    dynamic_cast<const PictureBox*>(control) != nullptr;
-            EXPECT_TRUE(!needsWords || !control->Text().empty()) << control->Name();
+            const bool isLabel = dynamic_cast<const Label*>(control) != nullptr;
+            EXPECT_TRUE(isLabel || !control->Text().empty()) << control->Name();
         }
+    });
+}
+
+// What a screen reader says of a control, with what it stands in.
+std::string SpokenName(const Control& control) {
+    const std::string around = control.Around() != nullptr ? SpokenName(*control.Around()) : "";
+    return around + "/" + control.Text();
+}
+
+TEST_P(EveryForm, CallsNoTwoOfItsControlsTheSame) {
+    Look([](Form& form) {
+        std::set<std::string> names;
+        const Control* before = nullptr;
+        for (const Control* control : form.Controls()) {
+            if (!TakesFocus(*control)) continue;
+            std::string name = SpokenName(*control);
+            // A button behind a box does something to that box, which was spoken of just before.
+            if (dynamic_cast<const TextBox*>(before) != nullptr) name += ", " + before->Text();
+            EXPECT_TRUE(names.insert(name).second) << name;
+            before = control;
+        }
+    });
+}
+
+// Forms whose tab order isn't that of reading.
+struct OtherOrder {
+    const char* form;
+    std::vector<std::string> begins;  // what stands first in the order of reading and comes last
+};
+const OtherOrder OtherOrders[] = {
+    // Who comes to the window wants a page: the links of the banner are behind all of them.
+    {"frmMain", {"lblHelp", "lblAbout"}},
+};
+
+TEST_P(EveryForm, HasATabOrderThatIsTheOrderOfReading) {
+    Look([](Form& form) {
+        std::vector<std::string> expected;
+        AddReadingOrder(form.FormLayout(), expected);
+        for (const OtherOrder& other : OtherOrders) {
+            if (form.Name() != other.form) continue;
+            const auto count = static_cast<std::ptrdiff_t>(other.begins.size());
+            ASSERT_TRUE(std::equal(other.begins.begin(), other.begins.end(), expected.begin()));
+            std::rotate(expected.begin(), expected.begin() + count, expected.end());
+        }
+        EXPECT_EQ(TabOrder(form), expected);
     });
 }
 

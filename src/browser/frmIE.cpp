@@ -54,7 +54,7 @@ Layout PutIn(Control& frame, BrowserView& view, std::vector<Control*>& controls)
 frmIE::frmIE(Application& application)
     : Form("frmIE", "Internet Explorer", FormKind::Page),
       application_(application),
-      picButtonHolder_("picButtonHolder", "", Panel::Look::Strip),
+      picButtonHolder_("picButtonHolder", "Views", Panel::Look::Strip),
       tbMain_("tbMain", "Advanced settings",
               {std::begin(AdvancedCaptions), std::end(AdvancedCaptions)},
               [this] { tbMain_Click(); }),
@@ -114,8 +114,8 @@ Layout frmIE::MakeViews(std::vector<Control*>& controls) {
     controls.push_back(&tbMain_);
     Layout panels = Stack({}, 1);
     for (std::size_t i = 0; i < std::size(subViews); ++i) {
-        fmIEAdvanced_.push_back(
-            std::make_unique<Panel>(ElementName("fmIEAdvanced", i), "", Panel::Look::Plain));
+        fmIEAdvanced_.push_back(std::make_unique<Panel>(ElementName("fmIEAdvanced", i),
+                                                        AdvancedCaptions[i], Panel::Look::Plain));
         fmIEAdvanced_.back()->SetVisible(i == 0);
         controls.push_back(fmIEAdvanced_.back().get());
         panels.children.push_back(PutIn(*fmIEAdvanced_.back(), *subViews[i], controls));

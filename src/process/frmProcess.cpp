@@ -43,8 +43,9 @@ frmProcess::frmProcess(Application& application, VerdictCache& verdictCache)
 void frmProcess::MakeLayout() {
     OptionButton& all = optFilter_.Option(All);
     OptionButton& filtered = optFilter_.Option(Filtered);
-    SetControls({&lstvProcess_, &fmFilter_, &filtered, &all, &cmdAdd_, &cmdRemove_, &cmdKill_,
-                 &cmdDelete_, &cmdViewInformation_, &cmdReport_, &cmdRefresh_, &cmdOpen_});
+    SetControls({&lstvProcess_, &fmFilter_, &filtered, &all, &cmdAdd_, &cmdKill_,
+                 &cmdViewInformation_, &cmdRefresh_, &cmdRemove_, &cmdDelete_, &cmdReport_,
+                 &cmdOpen_});
     SetAccelerators({{Key::F5, false, "cmdRefresh_Click"}});
     SetLayout(Column(
         {Item(lstvProcess_, 1),

@@ -51,13 +51,13 @@ constexpr int OverflowFault = 6;
 frmMain::frmMain(Application& application)
     : Form("frmMain", ApplicationTitle, FormKind::Main),
       application_(application),
-      picTop_("picTop", "", Panel::Look::Banner),
+      picTop_("picTop", "Banner", Panel::Look::Banner),
       picProduct_("picProduct", ApplicationTitle, "Application", 48),
       lblProduct_("lblProduct", ApplicationTitle, Label::Look::Title),
       lblHelp_("lblHelp", "Help Topics", [this] { lblHelp_Click(); }),
       lblAbout_("lblAbout", "About", [this] { lblAbout_Click(); }),
-      picLeft_("picLeft", "", Panel::Look::Strip),
-      picPage_("picPage", ""),
+      picLeft_("picLeft", "Pages", Panel::Look::Strip),
+      picPage_("picPage", "Page"),
       lblUnread_("lblUnread", UnreadText(MostPlaces), [this] { lblUnread_Click(); }),
       tmrUpdate_("tmrUpdate", UpdateDelay, [this] { tmrUpdate_Timer(); }) {
     std::vector<Control*> controls = {&picTop_, &picProduct_, &lblProduct_, &picLeft_};

@@ -31,11 +31,12 @@ class Keyboard : public ProgramTest {
 
 // In the order of the form, beginning behind the list; what is disabled or not chosen is left out.
 std::vector<std::string> TabOrder() {
-    std::vector<std::string> names = {
-        "optFilter(1)", "cmdAdd",     "cmdKill",    "cmdDelete",    "cmdViewInformation",
-        "cmdReport",    "cmdRefresh", "cmdOpen",    "lblHelp",      "lblAbout",
-        "cmdProcess",   "cmdIE",      "cmdStartup", "cmdAddremove", "cmdOptions",
-        "cmdUtilities", "lstvProcess"};
+    std::vector<std::string> names = {"optFilter(1)",       "cmdAdd",       "cmdKill",
+                                      "cmdViewInformation", "cmdRefresh",   "cmdDelete",
+                                      "cmdReport",          "cmdOpen",      "lblHelp",
+                                      "lblAbout",           "cmdProcess",   "cmdIE",
+                                      "cmdStartup",         "cmdAddremove", "cmdOptions",
+                                      "cmdUtilities",       "lstvProcess"};
     if (!ListsFolders()) std::erase(names, "cmdOpen");
     return names;
 }

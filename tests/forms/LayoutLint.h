@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <vector>
 
 #include "forms/Controls.h"
@@ -47,6 +48,32 @@ inline bool IsGroup(const Control* control) {
     return dynamic_cast<const Frame*>(control) != nullptr ||
            dynamic_cast<const Panel*>(control) != nullptr ||
            dynamic_cast<const TabStrip*>(control) != nullptr;
+}
+
+// Whether the user reaches it by Tab or, inside a group of options, by the arrow keys.
+inline bool TakesFocus(const Control& control) {
+    return dynamic_cast<const Label*>(&control) == nullptr &&
+           dynamic_cast<const PictureBox*>(&control) == nullptr &&
+           dynamic_cast<const PageHost*>(&control) == nullptr &&
+           dynamic_cast<const Frame*>(&control) == nullptr &&
+           dynamic_cast<const Panel*>(&control) == nullptr;
+}
+
+// The names of the controls that take the focus, in the order in which the layout is read: rows
+// from left to right, columns and groups from top to bottom.
+inline void AddReadingOrder(const Layout& layout, std::vector<std::string>& names) {
+    const Control* control = layout.control;
+    if (control != nullptr && TakesFocus(*control)) names.push_back(control->Name());
+    for (const Layout& child : layout.children) AddReadingOrder(child, names);
+}
+
+// The names of the same controls in tab order.
+inline std::vector<std::string> TabOrder(const Form& form) {
+    std::vector<std::string> names;
+    for (const Control* control : form.Controls()) {
+        if (TakesFocus(*control)) names.push_back(control->Name());
+    }
+    return names;
 }
 
 // Where the shown controls stand, other than those that others stand in.
