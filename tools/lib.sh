@@ -55,11 +55,11 @@ wine_end() {
     "$wineserver" -w 2>/dev/null || true
 }
 
-# Starts a virtual display on a free number; exports DISPLAY and leaves the process id in $xvfb.
+# start_display SIZE: starts a virtual display on a free number; exports DISPLAY and leaves the process id in $xvfb.
 start_display() {
-    local number
+    local number screen=$1
     command -v Xvfb >/dev/null || fail "no Xvfb; run tools/install display"
-    coproc xvfb_fd { exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp 2>/dev/null; }
+    coproc xvfb_fd { exec Xvfb -displayfd 1 -screen 0 "${screen}x24" -nolisten tcp 2>/dev/null; }
     xvfb=$!
     read -r -t 20 number <&"${xvfb_fd[0]}" || fail "Xvfb doesn't start"
     export DISPLAY=:$number
