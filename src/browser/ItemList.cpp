@@ -41,6 +41,25 @@ Layout ItemList::ViewLayout() {
     return Column({Item(list_, 1), Row({std::move(buttons), Space()})});
 }
 
+std::vector<Accelerator> ItemList::Keys() const {
+    struct CommandKey {
+        KeyStroke stroke;
+        void (ItemList::*command)();
+        const Control* within;
+    };
+    const CommandKey table[] = {{{Key::F5}, &ItemList::Load, nullptr},
+                                {{Key::P, true}, &ItemList::MakeReport, nullptr},
+                                {{Key::Delete}, &ItemList::DeleteSelected, &list_}};
+    std::vector<Accelerator> keys;
+    for (const CommandKey& each : table) {
+        for (const ItemButton& button : shape_.buttons) {
+            if (button.command != each.command) continue;
+            keys.push_back({each.stroke, button.name + std::string("_Click"), each.within});
+        }
+    }
+    return keys;
+}
+
 // ---- The rows
 
 void ItemList::Load() {

@@ -85,6 +85,9 @@ class ItemList : public BrowserView {
     // The handler, by its name, that builds the list anew on whichever page is loaded.
     std::string RefreshHandler() const { return shape_.refreshButton + std::string("_Click"); }
 
+    // The keys of the commands that all such lists have.
+    std::vector<Accelerator> Keys() const;
+
     ListView& List() { return list_; }
     std::vector<Control*> Controls() override;
     Layout ViewLayout() override;

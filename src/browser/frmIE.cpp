@@ -81,7 +81,9 @@ void frmIE::MakeControls() {
     std::vector<Accelerator> keys;
     const ItemList* const lists[] = {&bhos_,      &toolbars_, &toolbarButtons_, &menus_,
                                      &protocols_, &domains_,  &hooks_};
-    for (const ItemList* list : lists) keys.push_back({Key::F5, false, list->RefreshHandler()});
+    for (const ItemList* list : lists) {
+        for (Accelerator& key : list->Keys()) keys.push_back(std::move(key));
+    }
     SetAccelerators(std::move(keys));
 }
 

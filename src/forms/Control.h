@@ -2,14 +2,19 @@
 // its handlers, not how it is shown. Whoever shows it attaches a view and asks the model.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "forms/Keys.h"
+
 namespace velkarix {
 
 class ControlVisitor;
+
+using Handler = std::function<void()>;
 
 // What of a control has changed.
 enum class Aspect {
@@ -22,6 +27,7 @@ enum class Aspect {
     RowState,      // texts, checks, colours or images of rows
     Selection,     // the selected row
     ColumnWidths,  // the columns are to be fitted to header and content
+    Now,           // nothing: what has changed before is to be on the screen at once
 };
 
 // The other side of a control: told of changes by the program, never of those by the user.
@@ -71,11 +77,18 @@ class Control {
     virtual bool Fire(std::string_view event);
     virtual void Accept(ControlVisitor& visitor) = 0;
 
+    // Whether the key means something to the control itself while it has the focus.
+    virtual bool Uses(const KeyStroke&) const { return false; }
+    // Whether the control has a place in its form's layout now.
+    virtual bool TakesRoom() const { return true; }
+    // Has what was changed drawn before it comes back, although no events are served.
+    void ShowNow() const { Notify(Aspect::Now); }
+
     // Null takes the view away.
     void AttachView(ControlView* view) { view_ = view; }
 
   protected:
-    void Notify(Aspect aspect) const;
+    virtual void Notify(Aspect aspect) const;
 
   private:
     void NotifyVisible() const;

@@ -78,6 +78,10 @@ void TextBox::TakeInput(std::string value) {
     if (onChange_) onChange_();
 }
 
+bool TextBox::Uses(const KeyStroke& stroke) const {
+    return stroke == KeyStroke{Key::C, true} || stroke.key == Key::Delete;
+}
+
 void TextBox::Accept(ControlVisitor& visitor) {
     visitor.Visit(*this);
 }

@@ -15,8 +15,6 @@
 
 namespace velkarix {
 
-using Handler = std::function<void()>;
-
 // Runs `handler` when `event` is the one that it is for. False when it isn't, or there is none.
 bool FireEvent(std::string_view event, std::string_view wanted, const Handler& handler);
 
@@ -96,6 +94,8 @@ class TextBox : public Control {
     // The user typed: the value changes without a word to the view.
     void TakeInput(std::string value);
     void Accept(ControlVisitor& visitor) override;
+    // Copying and deleting what is selected in it.
+    bool Uses(const KeyStroke& stroke) const override;
 
   private:
     Shape shape_;

@@ -15,6 +15,13 @@ void StandInside(const Layout& layout, Control* around) {
     for (const Layout& child : layout.children) StandInside(child, around);
 }
 
+// Whether `control` is `around` or stands in it; null holds everything.
+bool IsWithin(const Control* control, const Control* around) {
+    if (around == nullptr) return true;
+    while (control != nullptr && control != around) control = control->Around();
+    return control != nullptr;
+}
+
 }  // namespace
 
 Form::Form(std::string name, std::string caption, FormKind kind)
@@ -43,14 +50,18 @@ bool Form::Run(std::string_view handler) {
     return control != nullptr && control->Fire(event);
 }
 
-bool Form::RaiseKey(Key key, bool control) {
+bool Form::RaiseKey(const KeyStroke& stroke, const Control* focus) {
+    if (focus != nullptr && focus->Uses(stroke)) return false;
     for (const Accelerator& accelerator : accelerators_) {
-        if (accelerator.key == key && accelerator.control == control) {
-            // A copy, since the handler may unload this form.
-            const std::string handler = accelerator.handler;
-            const auto [target, event] = Target(handler);
-            if (target != nullptr && target->Shown()) return target->Raise(event);
+        if (accelerator.stroke != stroke || !IsWithin(focus, accelerator.within)) continue;
+        // A copy, since the command may unload this form.
+        const std::string handler = accelerator.handler;
+        if (const Handler command = accelerator.command) {
+            command();
+            return true;
         }
+        const auto [target, event] = Target(handler);
+        if (target != nullptr && target->Shown()) return target->Raise(event);
     }
     return false;
 }

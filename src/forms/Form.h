@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "forms/Control.h"
+#include "forms/Keys.h"
 #include "forms/Layout.h"
 #include "forms/Timer.h"
 
@@ -20,13 +21,13 @@ enum class FormKind {
     Dialog,  // modal above another form
 };
 
-enum class Key { F5, Digit1, Digit2, Digit3, Digit4, Digit5, Digit6 };
-
-// A key that runs a handler wherever the focus is in the form.
+// A key that gives a command wherever the focus is in the form, or around it in the page on view.
 struct Accelerator {
-    Key key;
-    bool control;  // together with Ctrl
-    std::string handler;
+    KeyStroke stroke;
+    std::string handler;  // of a control, which must be on view and enabled
+    // The one that must have the focus, or hold what has it; null: none must.
+    const Control* within = nullptr;
+    Handler command = {};  // in place of the handler, where no control stands for the command
 };
 
 class Form {
@@ -61,9 +62,10 @@ class Form {
     // Runs a handler by its name, control + event ("cmdRefresh_Click"), whether its control is
     // enabled or not. False when there is no such control or event.
     bool Run(std::string_view handler);
-    // The user pressed a key: runs its handler. Of several handlers of one key that one runs whose
-    // control is on view. False when there is none, or its control is disabled.
-    bool RaiseKey(Key key, bool control);
+    // The user pressed a key while `focus` had the keyboard (null: nothing did): gives its command,
+    // unless the key means something to `focus` itself. Of several handlers of one key that one
+    // runs whose control is on view. False when there is none, or its control is disabled.
+    bool RaiseKey(const KeyStroke& stroke, const Control* focus = nullptr);
 
     // The form is to go: its user closed it, or its code did.
     void Close();

@@ -61,7 +61,9 @@ void frmAddRemove::MakeLayout() {
     Layout buttons = UniformRow({});
     buttons_.Make<frmAddRemove>(*this, Buttons, controls, buttons);
     SetControls(std::move(controls));
-    SetAccelerators({{Key::F5, false, RefreshHandler}});
+    SetAccelerators({{{Key::F5}, RefreshHandler},
+                     {{Key::P, true}, "cmdReport_Click"},
+                     {{Key::Delete}, "cmdDelete_Click", &lstvAddRemove_}});
     SetLayout(Column(
         {Item(lstvAddRemove_, 1), Row({Group(fmInstalled_, Row({Item(icon), Item(details)})),
                                        Space(), Column({Space(), std::move(buttons), Space()})})}));

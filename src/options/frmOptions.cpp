@@ -58,6 +58,8 @@ void frmOptions::MakeLayout() {
     controls.insert(controls.end(), {&cmdReport_, &fmBackup_, &lstvBackup_, &chkDelete_,
                                      &cmdrestore_, &cmdDelete_});
     SetControls(std::move(controls));
+    SetAccelerators(
+        {{{Key::P, true}, "cmdReport_Click"}, {{Key::Delete}, "cmdDelete_Click", &lstvBackup_}});
     SetLayout(Column({Group(fmLegend_, Column({std::move(legend), Item(chkFontBold_)})),
                       Group(fmReport_, std::move(areas)),
                       Group(fmBackup_,

@@ -46,7 +46,9 @@ void frmProcess::MakeLayout() {
     SetControls({&lstvProcess_, &fmFilter_, &filtered, &all, &cmdAdd_, &cmdKill_,
                  &cmdViewInformation_, &cmdRefresh_, &cmdRemove_, &cmdDelete_, &cmdReport_,
                  &cmdOpen_});
-    SetAccelerators({{Key::F5, false, "cmdRefresh_Click"}});
+    SetAccelerators({{{Key::F5}, "cmdRefresh_Click"},
+                     {{Key::P, true}, "cmdReport_Click"},
+                     {{Key::Delete}, "cmdDelete_Click", &lstvProcess_}});
     SetLayout(Column(
         {Item(lstvProcess_, 1),
          Row({Group(fmFilter_, Column({Item(filtered), Item(all)})),

@@ -70,7 +70,7 @@ frmMain::frmMain(Application& application)
             Button::Look::Picture));
         controls.push_back(pageButtons_.back().get());
         strip.children.push_back(Item(*pageButtons_.back()));
-        keys.push_back({entry.key, true, std::string(entry.button) + "_Click"});
+        keys.push_back({{entry.key, true}, std::string(entry.button) + "_Click"});
     }
     controls.insert(controls.end(), {&picPage_, &lblUnread_, &lblHelp_, &lblAbout_});
     SetControls(std::move(controls));

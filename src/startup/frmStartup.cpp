@@ -47,7 +47,9 @@ void frmStartup::MakeLayout() {
     Layout buttons = Grid(ButtonColumns, {});
     buttons_.Make<frmStartup>(*this, Buttons, controls, buttons);
     SetControls(std::move(controls));
-    SetAccelerators({{Key::F5, false, "cmdRefresh_Click"}});
+    SetAccelerators({{{Key::F5}, "cmdRefresh_Click"},
+                     {{Key::P, true}, "cmdReport_Click"},
+                     {{Key::Delete}, "cmdDelete_Click", &lstvStartup_}});
     SetLayout(Column({Row({Column({Item(tvwStartup_, 1)}),
                            Group(fmStartup_, Column({Item(lstvStartup_, 1)}), 1)},
                           1),

@@ -187,7 +187,7 @@ TEST_F(FrmIETest, RefreshesTheListThatIsShownByItsKey) {
     std::size_t filled = 0;
     for (const auto& [view, list] : shown) {
         Page().SwitchView(view);
-        EXPECT_TRUE(Page().RaiseKey(Key::F5, false));
+        EXPECT_TRUE(Page().RaiseKey({Key::F5}));
         EXPECT_EQ(ListOf(*list).RowCount(), 1u) << list->list;
         ++filled;
         std::size_t rows = 0;
@@ -200,11 +200,33 @@ TEST_F(FrmIETest, RefreshesNothingWhereNoListIsShown) {
     Open();
     Page().SwitchView(URLs);
     Forget();
-    EXPECT_FALSE(Page().RaiseKey(Key::F5, false));
+    EXPECT_FALSE(Page().RaiseKey({Key::F5}));
     Page().SwitchView(Advanced);
     Tabs().UserSelect(2);
-    EXPECT_FALSE(Page().RaiseKey(Key::F5, false));
+    EXPECT_FALSE(Page().RaiseKey({Key::F5}));
     EXPECT_TRUE(Machine().Journal().Calls().empty());
+}
+
+TEST_F(FrmIETest, ReportsAndDeletesInTheListThatIsShownByTheirKeys) {
+    PutClasses(Machine());
+    for (const ListCase* list : AllLists) Put(*list, list->places[0], true, "A");
+    Open();
+    const std::pair<std::int16_t, const ListCase*> shown[] = {
+        {0, &BHOs},      {1, &Toolbars}, {2, &Buttons}, {3, &Menus},
+        {5, &Protocols}, {6, &Domains},  {7, &Hooks}};
+    for (const auto& [view, list] : shown) {
+        Page().SwitchView(view);
+        ListView& rows = ListOf(*list);
+        rows.Select(&rows.Row(0));
+        program.desktop.saveRequests.clear();
+        EXPECT_TRUE(Page().RaiseKey({Key::P, true}));
+        EXPECT_EQ(program.desktop.saveRequests.size(), 1u) << list->list;
+        EXPECT_FALSE(Page().RaiseKey({Key::Delete}));
+        EXPECT_EQ(rows.RowCount(), 1u) << list->list;
+        program.desktop.answers = {MessageAnswer::Yes};
+        EXPECT_TRUE(Page().RaiseKey({Key::Delete}, &rows));
+        EXPECT_EQ(rows.RowCount(), 0u) << list->list;
+    }
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ class LoggedForm : public Form {
           cmdGo("cmdGo", "Go", [this] { log.push_back("go"); }),
           log(events) {
         SetControls({&cmdGo});
-        SetAccelerators({{Key::F5, false, "cmdGo_Click"}});
+        SetAccelerators({{{Key::F5}, "cmdGo_Click"}});
     }
     void Form_Load() override { log.push_back("load " + Name() + " " + property); }
     void Form_Unload() override { log.push_back("unload " + Name()); }
@@ -131,11 +131,11 @@ TEST_F(FormSetTest, RunsHandlersByTheirName) {
 TEST_F(FormSetTest, RunsTheHandlerOfAKeyUnlessItsControlIsDisabled) {
     auto& form = static_cast<LoggedForm&>(*forms.Show("frmA"));
     desktop.events.clear();
-    EXPECT_TRUE(form.RaiseKey(Key::F5, false));
-    EXPECT_FALSE(form.RaiseKey(Key::F5, true));
-    EXPECT_FALSE(form.RaiseKey(Key::Digit1, false));
+    EXPECT_TRUE(form.RaiseKey({Key::F5}));
+    EXPECT_FALSE(form.RaiseKey({Key::F5, true}));
+    EXPECT_FALSE(form.RaiseKey({Key::Digit1}));
     form.cmdGo.SetEnabled(false);
-    EXPECT_FALSE(form.RaiseKey(Key::F5, false));
+    EXPECT_FALSE(form.RaiseKey({Key::F5}));
     EXPECT_EQ(desktop.events, (Events{"go"}));
 }
 

@@ -4,6 +4,7 @@
 
 #include "CountingView.h"
 #include "forms/Controls.h"
+#include "forms/ListView.h"
 
 namespace velkarix {
 namespace {
@@ -16,7 +17,7 @@ class TwoViews : public Form {
         SetLayout(Row({Group(frame, Stack({Group(first, Row({Item(firstButton)})),
                                            Group(second, Row({Item(secondButton)}))})),
                        Item(beside)}));
-        SetAccelerators({{Key::F5, false, "cmdFirst_Click"}, {Key::F5, false, "cmdSecond_Click"}});
+        SetAccelerators({{{Key::F5}, "cmdFirst_Click"}, {{Key::F5}, "cmdSecond_Click"}});
         second.SetVisible(false);
     }
     void ShowSecond() {
@@ -78,29 +79,84 @@ TEST_F(FormTest, TheViewsOfAllThatStandInAGroupHearThatItIsHidden) {
 }
 
 TEST_F(FormTest, AKeyRunsTheHandlerOfTheControlOnView) {
-    EXPECT_TRUE(form.RaiseKey(Key::F5, false));
+    EXPECT_TRUE(form.RaiseKey({Key::F5}));
     EXPECT_EQ(form.firstClicks, 1);
     form.ShowSecond();
-    EXPECT_TRUE(form.RaiseKey(Key::F5, false));
+    EXPECT_TRUE(form.RaiseKey({Key::F5}));
     EXPECT_EQ(form.firstClicks, 1);
     EXPECT_EQ(form.secondClicks, 1);
 }
 
 TEST_F(FormTest, AKeyRunsNoHandlerOfADisabledControlNorOfTheOneBehindIt) {
     form.firstButton.SetEnabled(false);
-    EXPECT_FALSE(form.RaiseKey(Key::F5, false));
+    EXPECT_FALSE(form.RaiseKey({Key::F5}));
     EXPECT_EQ(form.firstClicks + form.secondClicks, 0);
 }
 
 TEST_F(FormTest, AKeyWithCtrlIsAnotherKey) {
-    EXPECT_FALSE(form.RaiseKey(Key::F5, true));
+    EXPECT_FALSE(form.RaiseKey({Key::F5, true}));
     EXPECT_EQ(form.firstClicks, 0);
 }
 
 TEST_F(FormTest, AKeyOfNothingOnViewMeansNothing) {
     form.frame.SetVisible(false);
-    EXPECT_FALSE(form.RaiseKey(Key::F5, false));
+    EXPECT_FALSE(form.RaiseKey({Key::F5}));
     EXPECT_EQ(form.firstClicks + form.secondClicks, 0);
+}
+
+class FormWithKeys : public Form {
+  public:
+    FormWithKeys() : Form("frmKeys", "Keys", FormKind::Main) {
+        SetControls({&panel, &list, &box, &button});
+        SetLayout(Column({Group(panel, Row({Item(list), Item(box)})), Item(button)}));
+        SetAccelerators({{{Key::C, true}, "", nullptr, [this] { calls += "copy "; }},
+                         {{Key::Delete}, "cmdTest_Click", &list},
+                         {{Key::Escape}, "", &panel, [this] { calls += "close "; }}});
+    }
+    // What the key gives with the focus there; "no" when the form has no use for it.
+    std::string Press(const KeyStroke& stroke, const Control* focus) {
+        calls.clear();
+        return RaiseKey(stroke, focus) ? calls : "no";
+    }
+
+    std::string calls;
+    Panel panel{"picTest", "", Panel::Look::Plain};
+    ListView list{"lstvTest", "Test", {"Name"}, {}};
+    TextBox box{"txtTest", "Test", {}};
+    Button button{"cmdTest", "Test", [this] { calls += "delete "; }};
+};
+
+TEST(FormKeys, RunACommandWithoutAControl) {
+    FormWithKeys form;
+    EXPECT_EQ(form.Press({Key::C, true}, nullptr), "copy ");
+    EXPECT_EQ(form.Press({Key::C, true}, &form.list), "copy ");
+    EXPECT_EQ(form.Press({Key::C, true, true}, &form.list), "no");
+    EXPECT_EQ(form.Press({Key::C}, &form.list), "no");
+}
+
+TEST(FormKeys, LeaveToTheFocusedControlWhatItUsesItself) {
+    FormWithKeys form;
+    EXPECT_EQ(form.Press({Key::C, true}, &form.box), "no");
+}
+
+TEST(FormKeys, WorkOnlyWhereTheirControlHasTheFocus) {
+    FormWithKeys form;
+    EXPECT_EQ(form.Press({Key::Delete}, &form.list), "delete ");
+    EXPECT_EQ(form.Press({Key::Delete}, &form.button), "no");
+    EXPECT_EQ(form.Press({Key::Delete}, nullptr), "no");
+    form.button.SetEnabled(false);
+    EXPECT_EQ(form.Press({Key::Delete}, &form.list), "no");
+    form.button.SetEnabled(true);
+    form.button.SetVisible(false);
+    EXPECT_EQ(form.Press({Key::Delete}, &form.list), "no");
+}
+
+TEST(FormKeys, WorkWhereTheirControlStandsAroundTheFocus) {
+    FormWithKeys form;
+    EXPECT_EQ(form.Press({Key::Escape}, &form.box), "close ");
+    EXPECT_EQ(form.Press({Key::Escape}, &form.list), "close ");
+    EXPECT_EQ(form.Press({Key::Escape}, &form.button), "no");
+    EXPECT_EQ(form.Press({Key::Escape}, nullptr), "no");
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ TEST_F(InstalledPageTest, RefreshesByItsButtonAndF5) {
     Click("cmdRefresh");
     EXPECT_EQ(Names(), RowTexts{"A"});
     AddApp("B");
-    EXPECT_TRUE(Page().RaiseKey(Key::F5, false));
+    EXPECT_TRUE(Page().RaiseKey({Key::F5}));
     EXPECT_EQ(Names(), (RowTexts{"A", "B"}));
 }
 
@@ -226,6 +226,18 @@ TEST_F(InstalledPageTest, RunsNothingWithoutASelectedRow) {
     Click("cmdUninstall");
     List().Raise("DblClick");
     EXPECT_TRUE(Launched().empty());
+}
+
+TEST_F(InstalledPageTest, ReportsByKeyAndDeletesByKeyWhereTheListHasTheFocus) {
+    AddApp("A");
+    Open();
+    EXPECT_TRUE(Page().RaiseKey({Key::P, true}));
+    EXPECT_EQ(program.desktop.saveRequests.size(), 1u);
+    List().Select(&List().Row(0));
+    EXPECT_FALSE(Page().RaiseKey({Key::Delete}));
+    program.desktop.answers = {MessageAnswer::Yes};
+    EXPECT_TRUE(Page().RaiseKey({Key::Delete}, &List()));
+    EXPECT_EQ(Names(), RowTexts{});
 }
 
 }  // namespace

@@ -378,5 +378,18 @@ TEST_F(OptionsPageTest, GivesItsThreeButtonsTheirLook) {
     }
 }
 
+TEST_F(OptionsPageTest, MakesTheReportByKeyAndDeletesABackupByKeyInItsList) {
+    AddBackup("1", record);
+    Open();
+    SelectFirst();
+    Form& page = *program.application.forms.Loaded("frmOptions");
+    EXPECT_TRUE(page.RaiseKey({Key::P, true}));
+    EXPECT_EQ(Told(), RowTexts{"Please select atleast one area to print"});
+    EXPECT_FALSE(page.RaiseKey({Key::Delete}, page.Find("chkDelete")));
+    program.desktop.answers = {MessageAnswer::Yes};
+    EXPECT_TRUE(page.RaiseKey({Key::Delete}, &List()));
+    EXPECT_EQ(List().RowCount(), 0u);
+}
+
 }  // namespace
 }  // namespace velkarix

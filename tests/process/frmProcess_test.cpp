@@ -256,8 +256,29 @@ TEST_F(ProcessPageTest, RunsOnEachSystemByTheMethodOfItsName) {
 TEST_F(ProcessPageTest, RefreshesByKey) {
     program.Start();
     Run(1, "C:\\new.exe", "1");
-    EXPECT_TRUE(Page().RaiseKey(Key::F5, false));
+    EXPECT_TRUE(Page().RaiseKey({Key::F5}));
     EXPECT_EQ(List().RowCount(), 1u);
+}
+
+TEST_F(ProcessPageTest, ReportsByKeyAndDeletesByKeyWhereTheListHasTheFocus) {
+    Run(1, "C:\\one.exe", "1");
+    program.Start();
+    EXPECT_TRUE(Page().RaiseKey({Key::P, true}));
+    EXPECT_EQ(program.desktop.saveRequests.size(), 1u);
+    EXPECT_FALSE(Page().RaiseKey({Key::Delete}, Page().Find("cmdKill")));
+    EXPECT_TRUE(program.desktop.messages.empty());
+    EXPECT_TRUE(Page().RaiseKey({Key::Delete}, &List()));
+    ASSERT_EQ(program.desktop.messages.size(), 1u);
+    EXPECT_EQ(program.desktop.messages[0].buttons, MessageButtons::YesNo);
+}
+
+TEST_F(ProcessPageTest, DeletesNothingByKeyWhileTheCommandIsDisabled) {
+    Run(1, "C:\\one.exe", "1");
+    program.Start();
+    program.machine.disk.Remove("C:\\one.exe");
+    List().UserSelect(&List().Row(0));
+    EXPECT_FALSE(Page().RaiseKey({Key::Delete}, &List()));
+    EXPECT_TRUE(program.desktop.messages.empty());
 }
 
 }  // namespace

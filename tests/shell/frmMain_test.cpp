@@ -158,11 +158,11 @@ TEST_F(MainFormTest, ScansAgainWhenAPageIsEnteredAndFocusesItsList) {
 
 TEST_F(MainFormTest, SwitchesPagesByKeys) {
     program.Start();
-    EXPECT_TRUE(Main().RaiseKey(Key::Digit6, true));
+    EXPECT_TRUE(Main().RaiseKey({Key::Digit6, true}));
     EXPECT_NE(program.application.forms.Loaded("frmUtilities"), nullptr);
-    EXPECT_TRUE(Main().RaiseKey(Key::Digit1, true));
+    EXPECT_TRUE(Main().RaiseKey({Key::Digit1, true}));
     EXPECT_NE(program.application.forms.Loaded("frmProcess"), nullptr);
-    EXPECT_FALSE(Main().RaiseKey(Key::Digit2, false));
+    EXPECT_FALSE(Main().RaiseKey({Key::Digit2}));
 }
 
 TEST_F(MainFormTest, OpensTheHelpIndex) {

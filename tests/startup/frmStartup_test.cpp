@@ -194,7 +194,7 @@ TEST_F(StartupForm, RefreshesTheNodeThatIsSelected) {
     Click("cmdRefresh");
     EXPECT_EQ(Names(), (RowTexts{"a"}));
     EXPECT_EQ(Caption(), "Startup Items (Current Selection: Local Machine Regitry)");
-    EXPECT_TRUE(Page().RaiseKey(Key::F5, false));
+    EXPECT_TRUE(Page().RaiseKey({Key::F5}));
 }
 
 TEST_F(StartupForm, RefreshesAllItemsWhereNoNodeIsSelected) {
@@ -215,6 +215,17 @@ TEST_F(StartupForm, ReadsAnewWhenItIsEnteredAgain) {
     LeaveAndComeBack();
     EXPECT_EQ(Names(), (RowTexts{"b"}));
     EXPECT_EQ(Tree().SelectedNode(), Tree().Find("All"));
+}
+
+TEST_F(StartupForm, ReportsByKeyAndDeletesByKeyWhereTheListHasTheFocus) {
+    SetRun(Hive::CurrentUser, "a", "");
+    Open();
+    EXPECT_TRUE(Page().RaiseKey({Key::P, true}));
+    EXPECT_EQ(program.desktop.saveRequests.size(), 1u);
+    EXPECT_FALSE(Page().RaiseKey({Key::Delete}, Page().Find("tvwStartup")));
+    program.desktop.answers = {MessageAnswer::Yes};
+    EXPECT_TRUE(Page().RaiseKey({Key::Delete}, &List()));
+    EXPECT_EQ(Names(), RowTexts{});
 }
 
 }  // namespace

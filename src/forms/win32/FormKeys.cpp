@@ -20,8 +20,20 @@ std::optional<Key> KeyOf(WPARAM code) {
         Key key;
     };
     static constexpr Pair pairs[] = {
-        {VK_F5, Key::F5},   {'1', Key::Digit1}, {'2', Key::Digit2}, {'3', Key::Digit3},
-        {'4', Key::Digit4}, {'5', Key::Digit5}, {'6', Key::Digit6},
+        {'C', Key::C},
+        {'F', Key::F},
+        {'P', Key::P},
+        {'1', Key::Digit1},
+        {'2', Key::Digit2},
+        {'3', Key::Digit3},
+        {'4', Key::Digit4},
+        {'5', Key::Digit5},
+        {'6', Key::Digit6},
+        {VK_RETURN, Key::Enter},
+        {VK_ESCAPE, Key::Escape},
+        {VK_DELETE, Key::Delete},
+        {VK_F3, Key::F3},
+        {VK_F5, Key::F5},
     };
     for (const Pair& pair : pairs) {
         if (pair.code == code) return pair.key;
@@ -30,13 +42,15 @@ std::optional<Key> KeyOf(WPARAM code) {
 }
 
 // The page on view is asked first, then the form around it.
-bool RaiseAccelerator(FormWindow& form, FormWindow* page, WPARAM code) {
-    const std::optional<Key> key = KeyOf(code);
+bool RaiseAccelerator(FormWindow& form, FormWindow* page, const MSG& message) {
+    const std::optional<Key> key = KeyOf(message.wParam);
     if (!key || IsDown(VK_MENU)) return false;
-    const bool control = IsDown(VK_CONTROL);
-    Form& model = form.Model();  // the page's handler may end the page
-    return (page != nullptr && page->Model().RaiseKey(*key, control)) ||
-           model.RaiseKey(*key, control);
+    const KeyStroke stroke{*key, IsDown(VK_CONTROL), IsDown(VK_SHIFT)};
+    const ControlWindow* window = ControlWindow::From(message.hwnd);
+    const Control* focus = window != nullptr ? &window->Model() : nullptr;
+    // A command that was given has used the key up; the page's may have ended the page.
+    return (page != nullptr && page->Model().RaiseKey(stroke, focus)) ||
+           form.Model().RaiseKey(stroke, focus);
 }
 
 bool PressDefaultButton(const FormWindow* form) {
@@ -101,7 +115,7 @@ bool ServeFormKeys(const FormWindows& forms, MSG& message) {
     if (form == nullptr || IsWindowEnabled(form->Handle()) == FALSE) return false;
     if (message.message == WM_KEYDOWN) {
         FormWindow* page = forms.PageIn(*form);
-        if (RaiseAccelerator(*form, page, message.wParam)) return true;
+        if (RaiseAccelerator(*form, page, message)) return true;
         if (message.wParam == VK_RETURN) {
             OnEnter(*form, page, message.hwnd);
             return true;

@@ -39,7 +39,7 @@ class PageOfAll : public Form {
           leave("cmdLeave", "Leave", [&whenLeft] { whenLeft(); }) {
         list.SetColumnShares({3, 1});
         SetControls({&list, &frame, &options.Option(0), &options.Option(1), &box, &act, &leave});
-        SetAccelerators({{Key::F5, false, "cmdAct_Click"}});
+        SetAccelerators({{{Key::F5}, "cmdAct_Click"}});
         SetLayout(Column({Item(list, 1),
                           Group(frame, Row({Item(options.Option(0)), Item(options.Option(1))})),
                           Row({Item(box), Item(act), Item(leave)})}));

@@ -21,7 +21,7 @@ class PageOfViews : public Form {
                        Stack({Group(firstView, Column({Item(list, 1), Item(refresh)})),
                               Group(secondView, tabs)},
                              1)}));
-        SetAccelerators({{Key::F5, false, "cmdRefresh_Click"}, {Key::F5, false, "cmdApply_Click"}});
+        SetAccelerators({{{Key::F5}, "cmdRefresh_Click"}, {{Key::F5}, "cmdApply_Click"}});
         SetButtons(&apply, nullptr);
         secondView.SetVisible(false);
         zones.SetVisible(false);
