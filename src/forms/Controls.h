@@ -184,10 +184,12 @@ class Frame : public Control {
 // A plain area around other controls.
 class Panel : public Control {
   public:
-    enum class Look { Banner, Strip, Plain };
+    // A drawer is as plain, but takes no room while it is hidden: what stands around it moves.
+    enum class Look { Banner, Strip, Plain, Drawer };
     Panel(std::string name, std::string text, Look look);
     Look PanelLook() const { return look_; }
     void Accept(ControlVisitor& visitor) override;
+    bool TakesRoom() const override { return look_ != Look::Drawer || Visible(); }
 
   private:
     Look look_;

@@ -33,11 +33,21 @@ int GapsBetween(std::size_t count, LayoutMetrics& metrics) {
     return count == 0 ? 0 : static_cast<int>(count - 1) * metrics.Gap();
 }
 
+bool TakesRoom(const Layout& layout) {
+    return layout.control == nullptr || layout.control->TakesRoom();
+}
+
 std::vector<Size> SizesOf(const std::vector<Layout>& children, LayoutMetrics& metrics) {
     std::vector<Size> sizes;
     sizes.reserve(children.size());
     for (const Layout& child : children) sizes.push_back(MinimumSize(child, metrics));
     return sizes;
+}
+
+// The gaps between a row's or column's children.
+int GapsIn(const Layout& layout, LayoutMetrics& metrics) {
+    const auto count = std::count_if(layout.children.begin(), layout.children.end(), TakesRoom);
+    return GapsBetween(static_cast<std::size_t>(count), metrics);
 }
 
 // The least lengths of a row's or column's children along its direction.
@@ -140,7 +150,7 @@ void PlaceBox(const Layout& layout, const Rect& area, LayoutMetrics& metrics,
     std::vector<int> lengths = LengthsAlong(layout, SizesOf(layout.children, metrics), row);
     std::vector<int> shares;
     for (const Layout& child : layout.children) shares.push_back(child.stretch);
-    const int spare = (row ? area.width : area.height) - Total(lengths, metrics);
+    const int spare = (row ? area.width : area.height) - SumOf(lengths) - GapsIn(layout, metrics);
     if (spare < 0) {
         Shrink(lengths, shares, -spare);
     } else {
@@ -151,7 +161,8 @@ void PlaceBox(const Layout& layout, const Rect& area, LayoutMetrics& metrics,
         const Rect place = row ? Rect{position, area.y, lengths[i], area.height}
                                : Rect{area.x, position, area.width, lengths[i]};
         Place(layout.children[i], place, metrics, placements);
-        position += lengths[i] + metrics.Gap();
+        position += lengths[i];
+        if (TakesRoom(layout.children[i])) position += metrics.Gap();
     }
 }
 
@@ -216,7 +227,8 @@ Size MinimumBox(const Layout& layout, LayoutMetrics& metrics) {
     const std::vector<Size> sizes = SizesOf(layout.children, metrics);
     int across = 0;
     for (const Size& size : sizes) across = std::max(across, Across(size, row));
-    return FromAlong(Total(LengthsAlong(layout, sizes, row), metrics), across, row);
+    return FromAlong(SumOf(LengthsAlong(layout, sizes, row)) + GapsIn(layout, metrics), across,
+                     row);
 }
 
 }  // namespace
@@ -286,6 +298,7 @@ Layout OnView(const Layout& layout) {
 }
 
 Size MinimumSize(const Layout& layout, LayoutMetrics& metrics) {
+    if (!TakesRoom(layout)) return {};
     switch (layout.kind) {
         case Layout::Kind::Space:
             return {};

@@ -77,7 +77,8 @@ Layout OnView(const Layout& layout);
 // The least size that holds everything.
 Size MinimumSize(const Layout& layout, LayoutMetrics& metrics);
 // Places all controls inside `area`, groups before what stands in them. Room that is missing to the
-// minimum is taken from what stretches, then from all. Invisible controls keep their place.
+// minimum is taken from what stretches, then from all. Invisible controls keep their place, but for
+// groups that take no room then, which have a place of no size along their row or column.
 std::vector<Placement> Arrange(const Layout& layout, const Rect& area, LayoutMetrics& metrics);
 
 }  // namespace velkarix

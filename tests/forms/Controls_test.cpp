@@ -204,5 +204,27 @@ TEST(ColorBox, TellsItsViewOfANewColour) {
     box.AttachView(nullptr);
 }
 
+TEST(Panel, TakesNoRoomAsADrawerThatIsHidden) {
+    Panel drawer("picDrawer", "", Panel::Look::Drawer);
+    Panel plain("picPlain", "", Panel::Look::Plain);
+    EXPECT_TRUE(drawer.TakesRoom());
+    drawer.SetVisible(false);
+    plain.SetVisible(false);
+    EXPECT_FALSE(drawer.TakesRoom());
+    EXPECT_TRUE(plain.TakesRoom());
+}
+
+TEST(TextBox, KeepsTheKeysOfCopyingAndDeletingToItself) {
+    const TextBox box("txtTest", "Test", {});
+    const Button button("cmdTest", "Test", {});
+    for (const KeyStroke& stroke :
+         {KeyStroke{Key::C, true}, KeyStroke{Key::Delete}, KeyStroke{Key::Delete, false, true}}) {
+        EXPECT_TRUE(box.Uses(stroke));
+        EXPECT_FALSE(button.Uses(stroke));
+    }
+    EXPECT_FALSE(box.Uses({Key::F5}));
+    EXPECT_FALSE(box.Uses({Key::C, true, true}));
+}
+
 }  // namespace
 }  // namespace velkarix

@@ -179,5 +179,26 @@ TEST_F(LayoutTest, AnEmptyRowTakesNoRoom) {
     EXPECT_TRUE(Arrange(Row({}), {0, 0, 10, 10}, metrics).empty());
 }
 
+TEST_F(LayoutTest, AHiddenDrawerTakesNoRoomAndNoGap) {
+    Panel drawer("picDrawer", "", Panel::Look::Drawer);
+    const Layout column = Column({Group(drawer, Row({Item(b)})), Item(a, 1), Item(c)});
+    EXPECT_EQ(MinimumSize(column, metrics), (Size{70, 80}));
+    auto places = Places(column, {0, 0, 100, 200});
+    EXPECT_EQ(places[&drawer], (Rect{0, 0, 100, 40}));
+    EXPECT_EQ(places[&a], (Rect{0, 45, 100, 140}));
+    drawer.SetVisible(false);
+    EXPECT_EQ(MinimumSize(column, metrics), (Size{30, 35}));
+    places = Places(column, {0, 0, 100, 200});
+    EXPECT_EQ(places[&drawer].height, 0);
+    EXPECT_EQ(places[&a], (Rect{0, 0, 100, 185}));
+    EXPECT_EQ(places[&c], (Rect{0, 190, 100, 10}));
+}
+
+TEST_F(LayoutTest, AnyOtherHiddenGroupKeepsItsPlace) {
+    const Layout column = Column({Group(frame, Row({Item(b)})), Item(a)});
+    frame.SetVisible(false);
+    EXPECT_EQ(MinimumSize(column, metrics), (Size{70, 65}));
+}
+
 }  // namespace
 }  // namespace velkarix

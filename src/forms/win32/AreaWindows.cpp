@@ -15,11 +15,18 @@ Shade PanelWindow::ShadeOf(Panel::Look look) {
         case Panel::Look::Strip:
             return Shade::Strip;
         case Panel::Look::Plain:
+        case Panel::Look::Drawer:
             break;
     }
     return Shade::Face;
 }
 
+void PanelWindow::Changed(Aspect aspect) {
+    ControlWindow::Changed(aspect);
+    const bool drawer = panel_.PanelLook() == Panel::Look::Drawer;
+    if (drawer && aspect == Aspect::Visible)
+        SendMessageA(GetParent(Handle()), RearrangeMessage, 0, 0);
+}
 LRESULT PanelWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_ERASEBKGND) return TRUE;  // the drawing covers all
     if (message == WM_PAINT) {

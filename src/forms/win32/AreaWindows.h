@@ -10,6 +10,7 @@ class PanelWindow : public ControlWindow {
   public:
     PanelWindow(DesktopContext& context, Panel& panel, const ControlPlace& place);
     bool IsGround() const override { return true; }
+    void Changed(Aspect aspect) override;
     // The shade of a panel, which its controls stand on.
     static Shade ShadeOf(Panel::Look look);
 

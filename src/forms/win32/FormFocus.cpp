@@ -6,7 +6,11 @@ namespace velkarix {
 
 void FormFocus::Give(HWND form, HWND control) {
     remembered_ = control;
-    if (GetActiveWindow() == form) SetFocus(control);
+    if (GetActiveWindow() != form) return;
+    SetFocus(control);
+    // As Tab does: what is typed into a box takes the place of what stands there.
+    const LRESULT code = SendMessageA(control, WM_GETDLGCODE, 0, 0);
+    if ((code & DLGC_HASSETSEL) != 0) SendMessageA(control, EM_SETSEL, 0, -1);
 }
 
 void FormFocus::Keep(HWND form) {

@@ -11,5 +11,7 @@ inline constexpr UINT EndFormsMessage = WM_APP;
 inline constexpr UINT RevealMessage = WM_APP + 1;
 // Sent to a form's window: other controls of it are on view.
 inline constexpr UINT OtherViewMessage = WM_APP + 2;
+// Sent to a form's window: what its controls are placed by has changed.
+inline constexpr UINT RearrangeMessage = WM_APP + 3;
 
 }  // namespace velkarix

@@ -118,6 +118,9 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             // Its form may have set texts as it loaded.
             if (wParam != FALSE) ArrangeControls();
             break;
+        case RearrangeMessage:
+            ArrangeControls();
+            return 0;
         case WM_TIMER:
             timers_->OnTimer(wParam);
             return 0;

@@ -126,6 +126,10 @@ void Metrics::Visit(Panel& control) {
         insets_ = {0, edge, 0, edge};
     }
 }
+    } else if (control.PanelLook() == Panel::Look::Drawer) {
+        // In line with the page.
+        const Insets page = FormMargins(FormKind::Page);
+        insets_ = {page.left, 0, page.right, 0};
 
 void Metrics::Visit(Label& control) {
     if (control.LabelLook() == Label::Look::Paragraph) {
