@@ -15,6 +15,7 @@ class OptionButton;
 class PageHost;
 class Panel;
 class PictureBox;
+class ProgressBar;
 class TabStrip;
 class TextBox;
 class TreeView;
@@ -34,6 +35,7 @@ class ControlVisitor {
     virtual void Visit(PageHost& control) = 0;
     virtual void Visit(Panel& control) = 0;
     virtual void Visit(PictureBox& control) = 0;
+    virtual void Visit(ProgressBar& control) = 0;
     virtual void Visit(TabStrip& control) = 0;
     virtual void Visit(TextBox& control) = 0;
     virtual void Visit(TreeView& control) = 0;

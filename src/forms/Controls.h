@@ -21,8 +21,9 @@ bool FireEvent(std::string_view event, std::string_view wanted, const Handler& h
 // Text as it stands: a label has no access key, and "&" is a letter in it as any other.
 class Label : public Control {
   public:
-    // A title stands in large type on the banner; a paragraph takes as many lines as it needs.
-    enum class Look { Plain, Title, Paragraph };
+    // A title stands in large type on the banner; a paragraph takes as many lines as it needs; a
+    // status is one line of any length, which ends in dots where its place is too short.
+    enum class Look { Plain, Title, Paragraph, Status };
     Label(std::string name, std::string text, Look look = Look::Plain);
     Look LabelLook() const { return look_; }
     void Accept(ControlVisitor& visitor) override;
@@ -93,9 +94,9 @@ class TextBox : public Control {
     void SetValue(std::string value);
     // The user typed: the value changes without a word to the view.
     void TakeInput(std::string value);
-    void Accept(ControlVisitor& visitor) override;
     // Copying and deleting what is selected in it.
     bool Uses(const KeyStroke& stroke) const override;
+    void Accept(ControlVisitor& visitor) override;
 
   private:
     Shape shape_;
@@ -188,8 +189,8 @@ class Panel : public Control {
     enum class Look { Banner, Strip, Plain, Drawer };
     Panel(std::string name, std::string text, Look look);
     Look PanelLook() const { return look_; }
-    void Accept(ControlVisitor& visitor) override;
     bool TakesRoom() const override { return look_ != Look::Drawer || Visible(); }
+    void Accept(ControlVisitor& visitor) override;
 
   private:
     Look look_;

@@ -21,7 +21,9 @@ void ListRow::SetText(std::size_t column, std::string text) {
 }
 
 void ListRow::SetChecked(bool checked) {
+    list_.Count(*this, false);
     checked_ = checked;
+    list_.Count(*this, true);
     list_.Notify(Aspect::RowState);
 }
 
@@ -32,6 +34,13 @@ void ListRow::SetTextColor(Color color) {
 
 void ListRow::SetBold(bool bold) {
     bold_ = bold;
+    list_.Notify(Aspect::RowState);
+}
+
+void ListRow::SetMark(ItemMark mark) {
+    list_.Count(*this, false);
+    mark_ = mark;
+    list_.Count(*this, true);
     list_.Notify(Aspect::RowState);
 }
 
@@ -47,6 +56,7 @@ ListRow& ListView::Add(std::string key, std::string text, std::size_t image,
     rows_.push_back(std::make_unique<ListRow>(*this, std::move(key), std::move(text), image,
                                               largeImage, columns_.size()));
     rows_.back()->position_ = rows_.size() - 1;
+    Count(*rows_.back(), true);
     inOrder_ = inOrder_ && !sorted_;
     Notify(Aspect::Rows);
     return *rows_.back();
@@ -55,6 +65,7 @@ ListRow& ListView::Add(std::string key, std::string text, std::size_t image,
 void ListView::Remove(ListRow& row) {
     const std::size_t position = PositionOf(row);
     if (selected_ == &row) selected_ = nullptr;
+    Count(row, false);
     rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(position));
     for (std::size_t i = position; i < rows_.size(); ++i) rows_[i]->position_ = i;
     Notify(Aspect::Rows);
@@ -63,6 +74,7 @@ void ListView::Remove(ListRow& row) {
 void ListView::Clear() {
     selected_ = nullptr;
     rows_.clear();
+    counts_ = {};
     inOrder_ = true;
     Notify(Aspect::Rows);
 }
@@ -130,7 +142,10 @@ void ListView::UserSelect(ListRow* row) {
 }
 
 void ListView::UserCheck(ListRow& row, bool checked) {
+    Count(row, false);
     row.checked_ = checked;
+    Count(row, true);
+    if (onChange_) onChange_();
 }
 
 void ListView::UserColumnClick(int column) {
@@ -149,6 +164,24 @@ bool ListView::Fire(std::string_view event) {
 
 void ListView::Accept(ControlVisitor& visitor) {
     visitor.Visit(*this);
+}
+
+void ListView::Notify(Aspect aspect) const {
+    Control::Notify(aspect);
+    const bool ofRows = aspect == Aspect::Rows || aspect == Aspect::RowState;
+    if ((ofRows || aspect == Aspect::Visible) && onChange_) onChange_();
+}
+
+void ListView::Count(const ListRow& row, bool in) {
+    const auto count = [in](std::size_t& number, bool isSo) {
+        if (isSo) in ? ++number : --number;
+    };
+    const ItemMark mark = row.mark_;
+    const bool both = mark == ItemMark::SuspiciousDisabled;
+    count(counts_.rows, true);
+    count(counts_.suspicious, both || mark == ItemMark::Suspicious);
+    count(counts_.disabled, both || mark == ItemMark::Disabled);
+    count(counts_.ticked, row.checked_);
 }
 
 }  // namespace velkarix

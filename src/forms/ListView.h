@@ -23,6 +23,19 @@ enum class MouseButton { Left = 1, Right = 2 };
 enum class SortOrder { Ascending, Descending };
 enum class ListMode { Details, Icons };  // icons are large and show column 0 alone
 
+// What is known of the item that a row stands for.
+enum class ItemMark { None, Suspicious, Disabled, SuspiciousDisabled };
+
+// How many rows a list has, and of which kinds; a row may be of several.
+struct ListCounts {
+    std::size_t rows = 0;
+    std::size_t suspicious = 0;
+    std::size_t disabled = 0;
+    std::size_t ticked = 0;
+
+    friend bool operator==(const ListCounts&, const ListCounts&) = default;
+};
+
 class ListRow {
   public:
     ListRow(ListView& list, std::string key, std::string text, std::size_t image,
@@ -41,6 +54,9 @@ class ListRow {
     void SetTextColor(Color color);
     bool Bold() const { return bold_; }
     void SetBold(bool bold);
+    // No mark at first. It has no look of its own: colour and weight are.
+    ItemMark Mark() const { return mark_; }
+    void SetMark(ItemMark mark);
 
   private:
     friend class ListView;
@@ -51,6 +67,7 @@ class ListRow {
     std::size_t largeImage_;
     std::size_t position_ = 0;
     std::optional<Color> textColor_;
+    ItemMark mark_ = ItemMark::None;
     bool checked_ = false;
     bool bold_ = false;
 };
@@ -86,6 +103,7 @@ class ListView : public Control {
     void Remove(ListRow& row);
     void Clear();
     std::size_t RowCount() const { return rows_.size(); }
+    const ListCounts& Counts() const { return counts_; }
     // The row at a position of the shown order, from 0.
     ListRow& Row(std::size_t position);
     std::size_t PositionOf(const ListRow& row);
@@ -117,6 +135,10 @@ class ListView : public Control {
     // Fits all columns to their headers and contents.
     void FitColumns() { Notify(Aspect::ColumnWidths); }
 
+    // `onChange` hears of every change of the rows, whoever makes it, and when the list comes on
+    // view or leaves it. Empty takes it away.
+    void SetOnChange(Handler onChange) { onChange_ = std::move(onChange); }
+
     // The user's gestures. They change the model without a word to the view, then run handlers.
     void UserSelect(ListRow* row);               // click or arrow key; null: beside all rows
     void UserCheck(ListRow& row, bool checked);  // click on the box, or Space
@@ -125,14 +147,21 @@ class ListView : public Control {
     bool Fire(std::string_view event) override;  // "DblClick"
     void Accept(ControlVisitor& visitor) override;
 
+  protected:
+    void Notify(Aspect aspect) const override;
+
   private:
     friend class ListRow;
     void PutInOrder();
+    // Counts what the row is in, or no longer.
+    void Count(const ListRow& row, bool in);
 
     std::vector<std::string> columns_;
     std::vector<int> columnShares_;
     Handlers handlers_;
+    Handler onChange_;
     std::vector<std::unique_ptr<ListRow>> rows_;
+    ListCounts counts_;
     ListRow* selected_ = nullptr;
     std::size_t sortKey_ = 0;
     SortOrder order_ = SortOrder::Ascending;

@@ -8,9 +8,11 @@ namespace velkarix {
 
 void MarkRow(const Appearance& appearance, ListRow& row, bool enabled, bool suspicious) {
     if (suspicious) {
+        row.SetMark(enabled ? ItemMark::Suspicious : ItemMark::SuspiciousDisabled);
         row.SetTextColor(enabled ? appearance.SusColor : appearance.SusDisColor);
         if (appearance.FontBold == 1) row.SetBold(true);
     } else if (!enabled) {
+        row.SetMark(ItemMark::Disabled);
         row.SetTextColor(appearance.DisColor);
     }
 }

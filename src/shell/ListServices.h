@@ -17,8 +17,8 @@ constexpr const char* EnabledText(bool enabled) {
     return enabled ? "True" : "False";
 }
 
-// Colours a new row by its state. A row that is enabled and not suspicious is left as it is, so
-// a colour that it had stays.
+// Marks and colours a new row by its state. A row that is enabled and not suspicious is left as it
+// is, so a colour that it had stays.
 void MarkRow(const Appearance& appearance, ListRow& row, bool enabled, bool suspicious);
 
 // A click on a header: sorts by `column` (from 0) and turns the order round, whichever column the

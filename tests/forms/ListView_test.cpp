@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "CountingView.h"
+#include "forms/Controls.h"
 
 namespace velkarix {
 namespace {
@@ -228,6 +230,60 @@ TEST_F(ListViewTest, HoldsFiftyThousandRowsInOrder) {
     list.Sort(0, SortOrder::Ascending);
     EXPECT_EQ(list.Row(0).Text(0), "0");
     EXPECT_EQ(list.Row(49999).Text(0), "9999");
+}
+
+TEST_F(ListViewTest, CountsItsRowsByTheirMarksAndTicks) {
+    EXPECT_EQ(list.Counts(), ListCounts{});
+    AddThree();
+    list.Row(0).SetMark(ItemMark::Suspicious);
+    list.Row(1).SetMark(ItemMark::SuspiciousDisabled);
+    list.Row(2).SetMark(ItemMark::Disabled);
+    list.Row(2).SetChecked(true);
+    list.UserCheck(list.Row(1), true);
+    EXPECT_EQ(list.Counts(), (ListCounts{3, 2, 2, 2}));
+    list.Row(0).SetMark(ItemMark::None);
+    list.Row(2).SetChecked(true);
+    list.UserCheck(list.Row(1), false);
+    EXPECT_EQ(list.Counts(), (ListCounts{3, 1, 2, 1}));
+    list.Remove(list.Row(1));
+    EXPECT_EQ(list.Counts(), (ListCounts{2, 0, 1, 1}));
+    list.Clear();
+    EXPECT_EQ(list.Counts(), ListCounts{});
+}
+
+TEST_F(ListViewTest, TellsOfEveryChangeOfItsRowsWhoeverMakesIt) {
+    int changes = 0;
+    list.SetOnChange([&changes] { ++changes; });
+    const auto told = [&changes] { return std::exchange(changes, 0) > 0; };
+    ListRow& row = list.Add("A", "Alpha", 1);
+    EXPECT_TRUE(told());
+    row.SetMark(ItemMark::Suspicious);
+    EXPECT_TRUE(told());
+    row.SetChecked(true);
+    EXPECT_TRUE(told());
+    list.UserCheck(row, false);
+    EXPECT_TRUE(told());
+    list.UserSelect(&row);
+    list.Select(nullptr);
+    list.FitColumns();
+    EXPECT_FALSE(told());
+    list.Remove(row);
+    EXPECT_TRUE(told());
+    list.Clear();
+    EXPECT_TRUE(told());
+    list.SetOnChange({});
+    list.Add("B", "beta", 1);
+    EXPECT_FALSE(told());
+}
+
+TEST_F(ListViewTest, TellsWhenItComesOnViewOrLeavesItWithWhatItStandsIn) {
+    Frame frame("fmTest", "Test");
+    list.StandIn(&frame);
+    int changes = 0;
+    list.SetOnChange([&changes] { ++changes; });
+    frame.SetVisible(false);
+    EXPECT_EQ(changes, 1);
+    list.SetOnChange({});
 }
 
 }  // namespace

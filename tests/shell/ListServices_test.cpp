@@ -19,18 +19,21 @@ class ListServicesTest : public testing::Test {
 
 TEST_F(ListServicesTest, MarksASuspiciousRow) {
     MarkRow(appearance, row, true, true);
+    EXPECT_EQ(row.Mark(), ItemMark::Suspicious);
     EXPECT_EQ(row.TextColor(), 11u);
     EXPECT_TRUE(row.Bold());
 }
 
 TEST_F(ListServicesTest, MarksADisabledRow) {
     MarkRow(appearance, row, false, false);
+    EXPECT_EQ(row.Mark(), ItemMark::Disabled);
     EXPECT_EQ(row.TextColor(), 22u);
     EXPECT_FALSE(row.Bold());
 }
 
 TEST_F(ListServicesTest, MarksARowThatIsSuspiciousAndDisabled) {
     MarkRow(appearance, row, false, true);
+    EXPECT_EQ(row.Mark(), ItemMark::SuspiciousDisabled);
     EXPECT_EQ(row.TextColor(), 33u);
     EXPECT_TRUE(row.Bold());
 }
@@ -46,8 +49,10 @@ TEST_F(ListServicesTest, MakesRowsBoldOnlyWhenFontBoldIsExactlyOne) {
 TEST_F(ListServicesTest, LeavesARowAsItWasWhenItIsEnabledAndNotSuspicious) {
     MarkRow(appearance, row, true, false);
     EXPECT_FALSE(row.TextColor().has_value());
+    EXPECT_EQ(row.Mark(), ItemMark::None);
     MarkRow(appearance, row, true, true);
     MarkRow(appearance, row, true, false);
+    EXPECT_EQ(row.Mark(), ItemMark::Suspicious);
     EXPECT_EQ(row.TextColor(), 11u);
     EXPECT_TRUE(row.Bold());
 }

@@ -14,9 +14,9 @@ void RegisterCommonControls() {
     using Call = BOOL(WINAPI*)(const INITCOMMONCONTROLSEX*);
     if (const auto call = library.Find<Call>("InitCommonControlsEx")) {
         // A row of tabs that is too long for its place has arrows, which are another class.
-        const INITCOMMONCONTROLSEX wanted{sizeof(INITCOMMONCONTROLSEX), ICC_LISTVIEW_CLASSES |
-                                                                            ICC_TAB_CLASSES |
-                                                                            ICC_UPDOWN_CLASS};
+        const INITCOMMONCONTROLSEX wanted{
+            sizeof(INITCOMMONCONTROLSEX),
+            ICC_LISTVIEW_CLASSES | ICC_TAB_CLASSES | ICC_UPDOWN_CLASS | ICC_PROGRESS_CLASS};
         call(&wanted);
     } else if (const auto older =
                    library.Find<decltype(&::InitCommonControls)>("InitCommonControls")) {

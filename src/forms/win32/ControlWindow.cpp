@@ -109,6 +109,9 @@ void ControlWindow::Changed(Aspect aspect) {
         case Aspect::Visible:
             context_.visibility.Set(handle_, model_.Shown());
             return;
+        case Aspect::Now:
+            UpdateWindow(handle_);
+            return;
         default:
             return;
     }

@@ -9,7 +9,9 @@
 #include "forms/win32/LinkWindow.h"
 #include "forms/win32/ListViewWindow.h"
 #include "forms/win32/PictureButtonWindow.h"
+#include "forms/win32/ProgressBarWindow.h"
 #include "forms/win32/StaticWindows.h"
+#include "forms/win32/StatusWindow.h"
 #include "forms/win32/TabStripWindow.h"
 #include "forms/win32/TextBoxWindow.h"
 #include "forms/win32/TreeViewWindow.h"
@@ -34,13 +36,20 @@ class Maker : public ControlVisitor {
     void Visit(ColorBox& control) override { Make<ColorBoxWindow>(control); }
     void Visit(ComboBox& control) override { Make<ComboBoxWindow>(control); }
     void Visit(Frame& control) override { Make<FrameWindow>(control); }
-    void Visit(Label& control) override { Make<LabelWindow>(control); }
+    void Visit(Label& control) override {
+        if (control.LabelLook() == Label::Look::Status) {
+            Make<StatusWindow>(control);
+        } else {
+            Make<LabelWindow>(control);
+        }
+    }
     void Visit(LinkLabel& control) override { Make<LinkWindow>(control); }
     void Visit(ListView& control) override { Make<ListViewWindow>(control); }
     void Visit(OptionButton& control) override { Make<OptionWindow>(control); }
     void Visit(PageHost& control) override { Make<PageHostWindow>(control); }
     void Visit(Panel& control) override { Make<PanelWindow>(control); }
     void Visit(PictureBox& control) override { Make<PictureWindow>(control); }
+    void Visit(ProgressBar& control) override { Make<ProgressBarWindow>(control); }
     void Visit(TabStrip& control) override { Make<TabStripWindow>(control); }
     void Visit(TextBox& control) override { Make<TextBoxWindow>(control); }
     void Visit(TreeView& control) override { Make<TreeViewWindow>(control); }

@@ -28,8 +28,14 @@ void EventLoop::RunWaiting() {
     }
 }
 
+// What a key runs is under way as what a message runs is: what waits for its end waits.
+bool EventLoop::ServeKeys(MSG& message) {
+    const ProcedureScope scope(context_);
+    return ServeFormKeys(forms_, message);
+}
+
 void EventLoop::Serve(MSG& message) {
-    if (!ServeFormKeys(forms_, message)) {
+    if (!ServeKeys(message)) {
         TranslateMessage(&message);
         DispatchMessageA(&message);
     }

@@ -20,6 +20,7 @@ class EventLoop {
 
   private:
     void Serve(MSG& message);
+    bool ServeKeys(MSG& message);
 
     DesktopContext& context_;
     const FormWindows& forms_;

@@ -14,6 +14,8 @@ namespace {
 
 // The mean letter of the font that the system has for dialogs as it comes, at 96 DPI.
 constexpr int UsualLetter = 6;
+// A status's least width, in average letters; it shows more where there is room.
+constexpr int StatusCharacters = 24;
 
 }  // namespace
 
@@ -124,18 +126,23 @@ void Metrics::Visit(Panel& control) {
         insets_ = {side, edge, side, edge + BannerLine()};
     } else if (control.PanelLook() == Panel::Look::Strip) {
         insets_ = {0, edge, 0, edge};
-    }
-}
     } else if (control.PanelLook() == Panel::Look::Drawer) {
         // In line with the page.
         const Insets page = FormMargins(FormKind::Page);
         insets_ = {page.left, 0, page.right, 0};
+    }
+}
 
 void Metrics::Visit(Label& control) {
     if (control.LabelLook() == Label::Look::Paragraph) {
         // As high as it is there, it has room for all of its lines in any wider place.
         const int width = spacing_->paragraph * letter_;
         size_ = ParagraphExtent(fonts_.Dialog(), control.Text(), width);
+        return;
+    }
+    if (control.LabelLook() == Label::Look::Status) {
+        size_ = {StatusCharacters * AverageCharacterWidth(fonts_.Dialog()),
+                 TextExtent(fonts_.Dialog(), {}).height};
         return;
     }
     const bool title = control.LabelLook() == Label::Look::Title;
@@ -161,6 +168,10 @@ void Metrics::Visit(PageHost&) {}
 
 void Metrics::Visit(PictureBox& control) {
     size_ = {dpi_.Pixels(control.PictureSize()), dpi_.Pixels(control.PictureSize())};
+}
+
+void Metrics::Visit(ProgressBar&) {
+    size_ = {dpi_.Pixels(100), dpi_.Pixels(14)};
 }
 
 void Metrics::Visit(TabStrip&) {

@@ -52,6 +52,7 @@ class Metrics : public LayoutMetrics, private ControlVisitor {
     void Visit(PageHost& control) override;
     void Visit(Panel& control) override;
     void Visit(PictureBox& control) override;
+    void Visit(ProgressBar& control) override;
     void Visit(TabStrip& control) override;
     void Visit(TextBox& control) override;
     void Visit(TreeView& control) override;
