@@ -22,8 +22,9 @@ double Digest(const std::string& path) {
                           files,          parts.clock,        parts.processes,
                           parts.token,    parts.shell,        parts.shortcuts,
                           parts.system,   parts.windows,      parts.cryptography};
+    Progress progress(machine.clock);
     std::string digest;
-    const double seconds = SecondsOf([&] { digest = GetFileMD5(machine, path); });
+    const double seconds = SecondsOf([&] { digest = GetFileMD5(machine, path, progress); });
     if (digest.size() != 32) std::abort();
     return seconds;
 }

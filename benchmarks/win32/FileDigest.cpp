@@ -21,10 +21,11 @@ bool MeasureFileDigest(const std::string& path, double reference) {
     const double size =
         static_cast<double>(FileLength(machine.files, path).value_or(0)) / (1024 * 1024);
 
+    Progress progress(machine.clock);
     bool digested = true;
     const double median =
         MedianSeconds({{"GetFileMD5 of the file", [&] {
-                            digested = GetFileMD5(machine, path).size() == 32 && digested;
+                            digested = GetFileMD5(machine, path, progress).size() == 32 && digested;
                         }}})[0];
     if (!digested) {
         std::fprintf(stderr, "no digest of %s\n", path.c_str());

@@ -36,7 +36,8 @@ void ClassList::AddClassRow(const ItemPlace& place, const ClassItem& item, bool 
 bool ClassList::IsSuspicious(const ClassItem& item, bool fileExists) {
     if (IsSuspiciousClsid(application_, ToLower(item.clsid))) return true;
     return fileExists &&
-           IsSuspiciousFileHash(application_, GetFileMD5(application_.machine, item.path));
+           IsSuspiciousFileHash(application_,
+                                GetFileMD5(application_.machine, item.path, application_.progress));
 }
 
 std::string ClassList::ClassDescription(const std::string& clsid) {

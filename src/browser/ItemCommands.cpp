@@ -36,7 +36,11 @@ void ItemList::MoveChecked(bool enabled) {
     const std::string page = page_.Name();
     const std::string refresh = RefreshHandler();
     const ItemPlaces& places = shape_.places;
-    for (const BrowserItem& item : items) MoveItem(application, places, item);
+    Progress::Work work(application.progress, list_.Text(), items.size());
+    for (const BrowserItem& item : items) {
+        work.Step(item.name);
+        MoveItem(application, places, item);
+    }
     Reload(application, page, refresh);
 }
 

@@ -63,6 +63,7 @@ std::vector<Accelerator> ItemList::Keys() const {
 // ---- The rows
 
 void ItemList::Load() {
+    const Progress::Work work(application_.progress, list_.Text());
     ClearRows(list_, images_, shape_.pictures);
     list_.EndSort();
     const std::span<const ItemPlace> places = shape_.places.places;
@@ -75,7 +76,12 @@ void ItemList::Load() {
 
 void ItemList::Scan(const ItemPlace& place, bool enabled) {
     const std::string holder = HoldingKey(application_, place, enabled);
-    for (const std::string& name : NamesIn(place, holder)) AddRow(place, holder, name, enabled);
+    const std::vector<std::string> names = NamesIn(place, holder);
+    Progress::Work work(application_.progress, list_.Text(), names.size());
+    for (const std::string& name : names) {
+        work.Step(name);
+        AddRow(place, holder, name, enabled);
+    }
 }
 
 // Beside the items that are values the browser keeps other things, which don't bear the name of a

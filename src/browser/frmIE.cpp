@@ -128,6 +128,7 @@ Layout frmIE::MakeViews(std::vector<Control*>& controls) {
 
 void frmIE::Form_Load() {
     ApplySkin();
+    const Progress::Work work(application_.progress, Caption());
     LoadBHOs();
     LoadToolbars();
     LoadButtons();

@@ -31,7 +31,11 @@ void frmAddRemove::Get_Uninstall() {
     ClearAppImages();
     std::vector<std::string> subKeys;
     application_.registry.EnumSubKeys(Hive::LocalMachine, UninstallKey, subKeys);
-    for (const std::string& subKey : subKeys) AddApplication(subKey);
+    Progress::Work work(application_.progress, lstvAddRemove_.Text(), subKeys.size());
+    for (const std::string& subKey : subKeys) {
+        work.Step(subKey);
+        AddApplication(subKey);
+    }
     lstvAddRemove_.SetVisible(true);
     AutoSizeColumns(lstvAddRemove_);
     View_Click();

@@ -58,16 +58,23 @@ void FullReport::Run(Form& owner, const std::vector<bool>& chosen) {
 
 bool FullReport::Write(const std::vector<bool>& chosen, const std::string& fileName) {
     const std::span<const FullReportArea> areas = FullReportAreas();
+    std::size_t blocks = 0;
     for (std::size_t i = 0; i < areas.size(); ++i) {
-        if (chosen.at(i) && !WriteArea(areas[i], fileName)) return false;
+        if (chosen.at(i)) blocks += areas[i].blocks.size();
+    }
+    Progress::Work work(application_.progress, "Full report", blocks);
+    for (std::size_t i = 0; i < areas.size(); ++i) {
+        if (chosen.at(i) && !WriteArea(areas[i], fileName, work)) return false;
     }
     return true;
 }
 
 // Events are served before each block. The user may have left the page by then, and so unloaded it:
 // then the rest is written from one that is loaded anew.
-bool FullReport::WriteArea(const FullReportArea& area, const std::string& fileName) {
+bool FullReport::WriteArea(const FullReportArea& area, const std::string& fileName,
+                           Progress::Work& work) {
     for (const FullReportBlock& block : area.blocks) {
+        work.Step(area.caption);
         application_.desktop.YieldEvents();
         frmMain* const main = OpenMainWindow(application_);
         if (main == nullptr) return false;

@@ -28,7 +28,7 @@ class FullReport {
 
     // False when the program is about to end.
     bool Write(const std::vector<bool>& chosen, const std::string& fileName);
-    bool WriteArea(const FullReportArea& area, const std::string& fileName);
+    bool WriteArea(const FullReportArea& area, const std::string& fileName, Progress::Work& work);
     void PrintLine(const std::string& fileName, const std::string& text);
 
     Application& application_;

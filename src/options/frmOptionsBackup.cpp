@@ -48,7 +48,10 @@ void frmOptions::LoadBackupList() {
     lstvBackup_.Clear();
     FileSystem& files = application_.machine.files;
     const std::string folder = application_.settings.InstallFolder() + "\\backup";
-    for (const std::string& name : ListFolder(application_, folder, "*.prc")) {
+    const std::vector<std::string> names = ListFolder(application_, folder, "*.prc");
+    Progress::Work work(application_.progress, lstvBackup_.Text(), names.size());
+    for (const std::string& name : names) {
+        work.Step(name);
         const std::optional<std::string> line = ReadFirstLine(files, BackupFile(name));
         const std::optional<BackupRecord> record = ParseBackupLine(line.value_or(""));
         if (record) AddBackupRow(record->path, record->date, name);

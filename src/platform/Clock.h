@@ -39,6 +39,8 @@ class Clock {
     // The date and the time of day in the user's short date and time formats.
     virtual std::string GetDateFormatA(const SystemTime& time) = 0;
     virtual std::string GetTimeFormatA(const SystemTime& time) = 0;
+    // Milliseconds since some moment in the past; begins at 0 again after 49 days.
+    virtual std::uint32_t GetTickCount() = 0;
     // Blocks the program.
     virtual void Sleep(std::uint32_t milliseconds) = 0;
     // Reads a date in any form that the user's settings accept; nothing when the text is no date

@@ -11,9 +11,10 @@
 
 namespace velkarix {
 
-std::string ProcessKey(const Machine& machine, const std::string& path) {
+std::string ProcessKey(Application& application, const std::string& path) {
+    const Machine& machine = application.machine;
     std::string key;
-    if (PathExists(machine.files, path)) key = GetFileMD5(machine, path);
+    if (PathExists(machine.files, path)) key = GetFileMD5(machine, path, application.progress);
     return key.empty() ? ToLower(path) : key;
 }
 
@@ -25,14 +26,14 @@ bool IsBootProcessPath(const std::string& path) {
                        [&](const char* pattern) { return MatchesPattern(path, pattern); });
 }
 
-ProcessVerdict ClassifyProcess(const Application& application, const SafeProcesses& safeList,
+ProcessVerdict ClassifyProcess(Application& application, const SafeProcesses& safeList,
                                VerdictCache& cache, const std::string& path) {
     if (const std::optional<std::size_t> slot = cache.FindVerdictSlot(path)) {
         return cache.At(*slot);
     }
     ProcessVerdict verdict;
     verdict.Path = path;
-    verdict.Key = ProcessKey(application.machine, path);
+    verdict.Key = ProcessKey(application, path);
     verdict.IsSystem = ListContains(application.SystemProcessList, verdict.Key);
     verdict.IsSafe = IsInSafeList(safeList, verdict.Key);
     if (!verdict.IsSafe && !verdict.IsSystem) {

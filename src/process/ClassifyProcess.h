@@ -11,7 +11,7 @@
 namespace velkarix {
 
 // What a program file is known by: its MD5, or its lower-case path when it can't be hashed.
-std::string ProcessKey(const Machine& machine, const std::string& path);
+std::string ProcessKey(Application& application, const std::string& path);
 
 // Whether a lower-case path is one of the three that the system's first processes report in its
 // own native form, which names no file on disk.
@@ -19,7 +19,7 @@ bool IsBootProcessPath(const std::string& path);
 
 // Judges the file at a lower-case path. One on the system's or the user's safe list isn't looked
 // up among the suspicious ones. The cache's verdict counts where there is one.
-ProcessVerdict ClassifyProcess(const Application& application, const SafeProcesses& safeList,
+ProcessVerdict ClassifyProcess(Application& application, const SafeProcesses& safeList,
                                VerdictCache& cache, const std::string& path);
 
 }  // namespace velkarix

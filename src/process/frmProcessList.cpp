@@ -28,7 +28,11 @@ void frmProcess::LoadProcessList() {
     const ProcessEntries entries = ListProcesses(application_.machine, application_.WindowsName);
     // This program runs, at least.
     application_.unread.Note("The running processes", "", !entries.empty());
-    for (const ProcessEntry& entry : entries) ShowEntry(entry.path, entry.id);
+    Progress::Work work(application_.progress, lstvProcess_.Text(), entries.size());
+    for (const ProcessEntry& entry : entries) {
+        work.Step(entry.path);
+        ShowEntry(entry.path, entry.id);
+    }
     if (lstvProcess_.RowCount() == 0) return;
     AutoSizeColumns(lstvProcess_);
     lstvProcess_ItemClick(lstvProcess_.Row(0));

@@ -17,7 +17,7 @@ void frmProcess::cmdAdd_Click() {
         if (!row.Checked()) continue;
         const ErrorCode known = EnsureSafeList();
         if (known != error::Success) return TellNotAdded(known);
-        const std::string key = ProcessKey(application_.machine, FullPath(row));
+        const std::string key = ProcessKey(application_, FullPath(row));
         if (IsInSafeList(safeProcessList_, key)) continue;
         safeProcessList_.push_back(key);
         verdictCache_.MarkSafeInCache(key);
@@ -56,7 +56,7 @@ void frmProcess::cmdRemove_Click() {
         ListRow& row = lstvProcess_.Row(i - 1);
         if (!row.Checked()) continue;
         if (EnsureSafeList() != error::Success) return;
-        const std::string key = ProcessKey(application_.machine, FullPath(row));
+        const std::string key = ProcessKey(application_, FullPath(row));
         if (!RemoveFromSafeList(safeProcessList_, key)) continue;
         row.SetChecked(false);
         verdictCache_.ClearSafeInCache(key);

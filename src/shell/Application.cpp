@@ -12,6 +12,7 @@ Application::Application(const Machine& machineToUse, Desktop& desktopToUse)
     : machine(machineToUse),
       desktop(desktopToUse),
       settings(machine),
+      progress(machine.clock),
       registry(machine, desktop, ApplicationTitle, &unread),
       menus(desktop),
       forms(desktop) {}

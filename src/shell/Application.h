@@ -11,6 +11,7 @@
 #include "registry/modRegistry.h"
 #include "shell/Appearance.h"
 #include "shell/DefinitionList.h"
+#include "shell/Progress.h"
 #include "shell/Settings.h"
 #include "shell/frmMenu.h"
 
@@ -40,6 +41,7 @@ class Application {
     Desktop& desktop;
     Settings settings;
     UnreadPlaces unread;
+    Progress progress;
     modRegistry registry;
     frmMenu menus;
 

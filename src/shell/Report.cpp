@@ -103,8 +103,10 @@ std::string ReportBlocks(Application& application, ListView& list,
                          const std::function<std::string(const ListRow&)>& filePath) {
     clsProcess facts(application.machine);
     std::string text;
+    Progress::Work work(application.progress, "Report: " + list.Text(), list.RowCount());
     for (std::size_t i = 0; i < list.RowCount(); ++i) {
         const ListRow& row = list.Row(i);
+        work.Step(row.Text(0));
         RowBlock block(row, facts, application.appearance);
         if (filePath) facts.GetFileDescription(filePath(row));
         block.Add(lines);

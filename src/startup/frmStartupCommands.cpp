@@ -63,7 +63,9 @@ void frmStartup::MoveChecked(bool enabled) {
         if (!row.Checked() || row.Text(startupColumn::Enabled) != EnabledText(enabled)) continue;
         items.emplace_back(row.Text(startupColumn::Name), row.Text(startupColumn::Location));
     }
+    Progress::Work work(application_.progress, lstvStartup_.Text(), items.size());
     for (const auto& [name, location] : items) {
+        work.Step(name);
         if (const RunKey* key = FindRunKey(location)) {
             RelocateRunValue(application_, key->hive, RunKeyPath(application_, *key, enabled),
                              RunKeyPath(application_, *key, !enabled), name);

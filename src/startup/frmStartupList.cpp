@@ -59,7 +59,10 @@ void frmStartup::LoadRun(Hive hive) {
 // A value that holds no text is listed all the same, with nothing that it starts.
 void frmStartup::ScanRunKey(const RunKey& key, bool enabled) {
     const std::string path = RunKeyPath(application_, key, enabled);
-    for (const RegValueEntry& value : application_.registry.EnumValues(key.hive, path)) {
+    const std::vector<RegValueEntry> values = application_.registry.EnumValues(key.hive, path);
+    Progress::Work work(application_.progress, lstvStartup_.Text(), values.size());
+    for (const RegValueEntry& value : values) {
+        work.Step(value.name);
         const std::string command =
             value.tag == RegValueTag::Text ? std::get<std::string>(value.data) : std::string();
         const std::string file =
@@ -99,7 +102,10 @@ void frmStartup::LoadFolder(const char* location) {
 void frmStartup::ScanShortcutFolder(const std::string& folder, const char* location, bool enabled) {
     FileSystem& files = application_.machine.files;
     if (folder.empty() || !shortcuts_) return;
-    for (const std::string& name : ListFolder(application_, folder, "*.lnk")) {
+    const std::vector<std::string> names = ListFolder(application_, folder, "*.lnk");
+    Progress::Work work(application_.progress, lstvStartup_.Text(), names.size());
+    for (const std::string& name : names) {
+        work.Step(name);
         const std::optional<Shortcut> shortcut = shortcuts_->Open(folder + "\\" + name);
         // One whose target is gone, or that leads to no file, isn't listed.
         if (!shortcut || !PathExists(files, shortcut->targetPath)) continue;
@@ -131,7 +137,8 @@ const frmStartup::SeenFile& frmStartup::LookAt(const std::string& path) {
     if (!isNew || !PathExists(machine.files, path)) return file;
     file.exists = true;
     // Only the file decides whether an item is suspicious.
-    file.suspicious = IsSuspiciousFileHash(application_, GetFileMD5(machine, path));
+    file.suspicious =
+        IsSuspiciousFileHash(application_, GetFileMD5(machine, path, application_.progress));
     file.facts = ReadFileFacts(machine, path);
     return file;
 }

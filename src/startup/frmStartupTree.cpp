@@ -88,6 +88,7 @@ void frmStartup::tvwStartup_NodeClick(const TreeNode& node) {
     if (node.key == currentNodeKey_) return;
     const auto* entry = std::find_if(std::begin(Nodes), std::end(Nodes),
                                      [&](const NodeEntry& each) { return node.key == each.key; });
+    const Progress::Work work(application_.progress, lstvStartup_.Text());
     ClearStartupList();
     for (const auto load : entry->loads) {
         if (load != nullptr) (this->*load)();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -33,7 +34,9 @@ class frmUtilities : public Form {
     void MakeLayout();
     std::string LastUpdate();
     void Launcher_Click(std::size_t launcher);
-    std::string ActiveXListFile();
+    // Does `work` for the key of each listed control. The code of why the list can't be read to its
+    // end.
+    ErrorCode ForEachListed(const std::function<void(const std::string& key)>& work);
     // Says `done`, or why the list couldn't be read to its end.
     void TellEnd(ErrorCode result, const std::string& done);
 

@@ -21,13 +21,12 @@ constexpr const char* BackupName = "ActiveX";
 }  // namespace
 
 void frmUtilities::cmdActiveXProtect_Click() {
-    TellEnd(ForEachListedKey(application_.machine.files, ActiveXListFile(),
-                             [&registry = application_.registry](const std::string& key) {
-                                 registry.CreateKey(Hive::LocalMachine, key);
-                                 registry.SetDwordValue(Hive::LocalMachine, key,
-                                                        "Compatibility Flags", KillBit);
-                             }),
-            "Protection activated Successfully.");
+    const ErrorCode listed =
+        ForEachListed([&registry = application_.registry](const std::string& key) {
+            registry.CreateKey(Hive::LocalMachine, key);
+            registry.SetDwordValue(Hive::LocalMachine, key, "Compatibility Flags", KillBit);
+        });
+    TellEnd(listed, "Protection activated Successfully.");
 }
 
 // A key may hold what others have set: all that are to go are kept first, in one file.
@@ -35,13 +34,12 @@ void frmUtilities::cmdActiveXRemove_Click() {
     modRegistry& registry = application_.registry;
     std::string sections;
     std::vector<std::string> keys;
-    const ErrorCode listed = ForEachListedKey(
-        application_.machine.files, ActiveXListFile(), [&](const std::string& key) {
-            const ErrorCode exported =
-                ExportKeyTree(application_.machine.registry, Hive::LocalMachine, key, sections);
-            if (exported != error::Success) return registry.ShowKeyNotDeleted(key, exported);
-            keys.push_back(key);
-        });
+    const ErrorCode listed = ForEachListed([&](const std::string& key) {
+        const ErrorCode exported =
+            ExportKeyTree(application_.machine.registry, Hive::LocalMachine, key, sections);
+        if (exported != error::Success) return registry.ShowKeyNotDeleted(key, exported);
+        keys.push_back(key);
+    });
     if (!keys.empty() &&
         !KeepOrTell(application_, BackupName, "backupItem", error::Success, sections)) {
         return;
@@ -50,8 +48,14 @@ void frmUtilities::cmdActiveXRemove_Click() {
     TellEnd(listed, "Protection removed Successfully.");
 }
 
-std::string frmUtilities::ActiveXListFile() {
-    return application_.settings.InstallFolder() + "\\MalActivex.scl";
+ErrorCode frmUtilities::ForEachListed(const std::function<void(const std::string& key)>& work) {
+    Progress::Work progress(application_.progress, fmActiveX_.Text());
+    return ForEachListedKey(application_.machine.files,
+                            application_.settings.InstallFolder() + "\\MalActivex.scl",
+                            [&](const std::string& key) {
+                                progress.Step(key);
+                                work(key);
+                            });
 }
 
 void frmUtilities::TellEnd(ErrorCode result, const std::string& done) {

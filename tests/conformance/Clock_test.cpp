@@ -114,4 +114,13 @@ TEST_P(ClockConformance, TheOrderOfTheShortFormDecidesWhichNumberIsTheDay) {
     EXPECT_EQ(clock_.VarDateFromStr("04/6/1"), 38139.0);
 }
 
+TEST_P(ClockConformance, TheTicksGoOnWhileTheProgramSleeps) {
+    const std::uint32_t before = clock_.GetTickCount();
+    clock_.Sleep(60);
+    const std::uint32_t passed = clock_.GetTickCount() - before;
+    // The system may look at its clock as seldom as 18 times a second.
+    EXPECT_GE(passed, 1u);
+    EXPECT_LT(passed, 30'000u);
+}
+
 }  // namespace velkarix

@@ -183,6 +183,7 @@ std::string MemoryClock::GetTimeFormatA(const SystemTime& time) {
 void MemoryClock::Sleep(std::uint32_t milliseconds) {
     journal_.Enter("Sleep", std::to_string(milliseconds));
     slept_ += milliseconds;
+    ticks_ += milliseconds;
 }
 
 std::optional<OleDate> MemoryClock::VarDateFromStr(const std::string& text) {

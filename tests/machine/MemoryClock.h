@@ -27,6 +27,9 @@ class MemoryClock : public Clock {
     // Whether the system has the automation library; it does at first.
     void SetHasAutomation(bool there) { hasAutomation_ = there; }
 
+    // How many milliseconds go by whenever the program looks at the ticks; 0 at first.
+    void SetTickStep(std::uint32_t milliseconds) { tickStep_ = milliseconds; }
+
     // How long the program slept in all.
     std::uint32_t SleptMilliseconds() const { return slept_; }
 
@@ -36,6 +39,8 @@ class MemoryClock : public Clock {
     std::optional<SystemTime> FileTimeToSystemTime(FileTime time) override;
     std::string GetDateFormatA(const SystemTime& time) override;
     std::string GetTimeFormatA(const SystemTime& time) override;
+    // Not written down: it can't fail, and tells of nothing but the time.
+    std::uint32_t GetTickCount() override { return ticks_ += tickStep_; }
     void Sleep(std::uint32_t milliseconds) override;
     // Dates in the order and with the separator of the short form, the year with two or four
     // digits, or yyyy-mm-dd; each also with h:mm, h:mm:ss and AM or PM behind it.
@@ -48,6 +53,8 @@ class MemoryClock : public Clock {
     std::string shortDate_ = "M/d/yyyy";
     bool hasAutomation_ = true;
     std::uint32_t slept_ = 0;
+    std::uint32_t ticks_ = 0;
+    std::uint32_t tickStep_ = 0;
 };
 
 }  // namespace velkarix

@@ -18,10 +18,11 @@ class modMD5Test : public testing::Test {
 
     std::string Digest(const std::string& content) {
         machine.AddFile(Path).Content(content);
-        return GetFileMD5(machine.Parts(), Path);
+        return GetFileMD5(machine.Parts(), Path, progress);
     }
 
     MemoryMachine machine;
+    Progress progress{machine.clock};
 };
 
 TEST_F(modMD5Test, GivesTheDigestInLowerCaseHexadecimal) {
@@ -43,11 +44,30 @@ TEST_F(modMD5Test, ALargeFileIsReadInBlocks) {
     EXPECT_EQ(machine.Journal().CountOf("CryptHashData"), 4u);
 }
 
+TEST_F(modMD5Test, TellsHowFarItHasGotInAFileThatIsLarge) {
+    struct : Progress::View {
+        void ShowProgress(const std::string& text, std::optional<double> share) override {
+            EXPECT_EQ(text, "Reading: " + Path);
+            shares.push_back(share.value_or(-1));
+        }
+        void EndProgress() override {}
+        std::vector<double> shares;
+    } view;
+    machine.clock.SetTickStep(200);
+    progress.SetView(&view);
+    Digest(std::string(16 * 256 * 1024, 'a'));
+    ASSERT_EQ(view.shares.size(), 1u);  // the end of the file
+    view.shares.clear();
+    Digest(std::string(20 * 256 * 1024, 'a'));
+    EXPECT_EQ(view.shares, (std::vector<double>{0, 0.25, 0.5, 0.75, 1}));
+    EXPECT_FALSE(progress.Busy());
+}
+
 TEST_F(modMD5Test, AFileThatCantBeReadHasNone) {
-    EXPECT_EQ(GetFileMD5(machine.Parts(), "C:\\missing.exe"), "");
-    EXPECT_EQ(GetFileMD5(machine.Parts(), ""), "");
+    EXPECT_EQ(GetFileMD5(machine.Parts(), "C:\\missing.exe", progress), "");
+    EXPECT_EQ(GetFileMD5(machine.Parts(), "", progress), "");
     machine.AddFolder("C:\\Folder");
-    EXPECT_EQ(GetFileMD5(machine.Parts(), "C:\\Folder"), "");
+    EXPECT_EQ(GetFileMD5(machine.Parts(), "C:\\Folder", progress), "");
     machine.AddFile(Path).Unreadable();
     EXPECT_EQ(Digest("abc"), "");
 }
@@ -86,7 +106,7 @@ TEST_F(modMD5Test, AFileThatFailsPartWayHasNone) {
                         files,         real.clock,        real.processes,
                         real.token,    real.shell,        real.shortcuts,
                         real.system,   real.windows,      real.cryptography};
-    EXPECT_EQ(GetFileMD5(parts, Path), "");
+    EXPECT_EQ(GetFileMD5(parts, Path, progress), "");
     EXPECT_EQ(files.OpenFileCount(), 0u);
 }
 
@@ -104,7 +124,7 @@ TEST_F(modMD5Test, ADigestOfAnotherLengthIsNone) {
                         real.files,    real.clock,        real.processes,
                         real.token,    real.shell,        real.shortcuts,
                         real.system,   real.windows,      cryptography};
-    EXPECT_EQ(GetFileMD5(parts, Path), "");
+    EXPECT_EQ(GetFileMD5(parts, Path, progress), "");
 }
 
 }  // namespace

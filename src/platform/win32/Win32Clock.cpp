@@ -44,6 +44,10 @@ std::string Win32Clock::GetTimeFormatA(const SystemTime& time) {
     return text;
 }
 
+std::uint32_t Win32Clock::GetTickCount() {
+    return ::GetTickCount();
+}
+
 void Win32Clock::Sleep(std::uint32_t milliseconds) {
     ::Sleep(milliseconds);
 }

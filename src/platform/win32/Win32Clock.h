@@ -13,6 +13,7 @@ class Win32Clock : public Clock {
     std::optional<SystemTime> FileTimeToSystemTime(FileTime time) override;
     std::string GetDateFormatA(const SystemTime& time) override;
     std::string GetTimeFormatA(const SystemTime& time) override;
+    std::uint32_t GetTickCount() override;
     void Sleep(std::uint32_t milliseconds) override;
     std::optional<OleDate> VarDateFromStr(const std::string& text) override;
 
