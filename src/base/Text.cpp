@@ -38,4 +38,10 @@ bool EqualIgnoringCase(std::string_view left, std::string_view right) {
     return CompareIgnoringCase(left, right) == 0;
 }
 
+bool HoldsIgnoringCase(std::string_view text, std::string_view part) {
+    const auto equal = [](char a, char b) { return Folded(a) == Folded(b); };
+    return part.empty() ||
+           std::search(text.begin(), text.end(), part.begin(), part.end(), equal) != text.end();
+}
+
 }  // namespace velkarix

@@ -15,5 +15,7 @@ std::string ToLower(std::string_view text);
 // Less than, equal to or greater than 0, with A to Z folded and other bytes by their value.
 int CompareIgnoringCase(std::string_view left, std::string_view right);
 bool EqualIgnoringCase(std::string_view left, std::string_view right);
+// Whether `part` stands in the text, A to Z without regard to case; an empty one stands in any.
+bool HoldsIgnoringCase(std::string_view text, std::string_view part);
 
 }  // namespace velkarix

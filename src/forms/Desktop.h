@@ -58,6 +58,10 @@ class Desktop {
     // name of the chosen entry, or nothing.
     virtual std::optional<std::string> PopUp(Form& owner, const Menu& menu) = 0;
 
+    // Puts text on the clipboard, in place of what is there. False when that failed, mostly since
+    // another program has it open.
+    virtual bool SetClipboardText(const std::string& text) = 0;
+
     // Serves events until the main form is closed or Quit is called.
     virtual void RunEventLoop() = 0;
     virtual void Quit() = 0;

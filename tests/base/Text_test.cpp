@@ -43,5 +43,19 @@ TEST(CompareIgnoringCase, PutsAPrefixFirst) {
     EXPECT_GT(CompareIgnoringCase("ABC", "ab"), 0);
 }
 
+TEST(HoldsIgnoringCase, FindsAPartAnywhereInAnyCase) {
+    EXPECT_TRUE(HoldsIgnoringCase("Lathe.EXE", "LATHE"));
+    EXPECT_TRUE(HoldsIgnoringCase("Lathe.EXE", ".exe"));
+    EXPECT_TRUE(HoldsIgnoringCase("Lathe.EXE", ""));
+    EXPECT_TRUE(HoldsIgnoringCase("", ""));
+    EXPECT_FALSE(HoldsIgnoringCase("Lathe.EXE", "lathes"));
+    EXPECT_FALSE(HoldsIgnoringCase("", "a"));
+}
+
+TEST(HoldsIgnoringCase, LeavesBytesAbove127AsTheyAre) {
+    EXPECT_TRUE(HoldsIgnoringCase("a\xC4", "\xC4"));
+    EXPECT_FALSE(HoldsIgnoringCase("a\xC4", "\xE4"));
+}
+
 }  // namespace
 }  // namespace velkarix

@@ -62,6 +62,11 @@ std::optional<std::string> RecordingDesktop::PopUp(Form& owner, const Menu& menu
     return std::exchange(nextMenuChoice, std::nullopt);
 }
 
+bool RecordingDesktop::SetClipboardText(const std::string& text) {
+    if (!clipboardHeld) clipboard = text;
+    return !clipboardHeld;
+}
+
 void RecordingDesktop::RunEventLoop() {
     events.push_back("loop");
     if (onEventLoop) onEventLoop();

@@ -25,7 +25,9 @@ class RecordingDesktop : public Desktop {
     std::vector<Message> messages;
     std::vector<ShownMenu> menus;
     std::vector<SaveRequest> saveRequests;
-    std::vector<Color> colorsShown;  // what a colour dialog had chosen at first
+    std::vector<Color> colorsShown;        // what a colour dialog had chosen at first
+    std::optional<std::string> clipboard;  // the text that was put on it
+    bool clipboardHeld = false;            // by another program
     int yields = 0;
     bool quit = false;
 
@@ -53,6 +55,7 @@ class RecordingDesktop : public Desktop {
     std::optional<std::string> AskSaveFile(Form& owner, const SaveRequest& request) override;
     std::optional<Color> AskColor(Form& owner, Color present) override;
     std::optional<std::string> PopUp(Form& owner, const Menu& menu) override;
+    bool SetClipboardText(const std::string& text) override;
     void RunEventLoop() override;
     void Quit() override { quit = true; }
     void YieldEvents() override;

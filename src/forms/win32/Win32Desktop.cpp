@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "forms/win32/ApplicationWindow.h"
+#include "forms/win32/Clipboard.h"
 #include "forms/win32/ColorDialog.h"
 #include "forms/win32/CommonControls.h"
 #include "forms/win32/EventLoop.h"
@@ -153,6 +154,10 @@ std::optional<std::string> Win32Desktop::PopUp(Form& owner, const Menu& menu) {
     const DWORD mouse = GetMessagePos();
     const POINT atMouse{static_cast<short>(LOWORD(mouse)), static_cast<short>(HIWORD(mouse))};
     return TrackPopup(around, menu, windows_->context.popupPoint.value_or(atMouse));
+}
+
+bool Win32Desktop::SetClipboardText(const std::string& text) {
+    return PutOnClipboard(windows_->context.applicationWindow, text);
 }
 
 void Win32Desktop::RunEventLoop() {

@@ -26,6 +26,7 @@ class Win32Desktop : public Desktop {
     std::optional<std::string> AskSaveFile(Form& owner, const SaveRequest& request) override;
     std::optional<Color> AskColor(Form& owner, Color present) override;
     std::optional<std::string> PopUp(Form& owner, const Menu& menu) override;
+    bool SetClipboardText(const std::string& text) override;
     void RunEventLoop() override;
     void Quit() override;
     void YieldEvents() override;
