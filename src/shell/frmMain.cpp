@@ -35,13 +35,6 @@ const PageEntry Pages[] = {
     {"cmdUtilities", "Utilities", "frmUtilities", "Utilities", nullptr, Key::Digit6},
 };
 
-// The text for as many places leaves room for any other.
-constexpr std::size_t MostPlaces = 10000;
-
-std::string UnreadText(std::size_t places) {
-    return std::to_string(places) + (places == 1 ? " place" : " places") + " could not be read";
-}
-
 constexpr int UpdateDelay = 200;  // milliseconds; the first page is drawn by then
 constexpr int TypeMismatchFault = 13;
 constexpr int OverflowFault = 6;
@@ -58,10 +51,15 @@ frmMain::frmMain(Application& application)
       lblAbout_("lblAbout", "About", [this] { lblAbout_Click(); }),
       picLeft_("picLeft", "Pages", Panel::Look::Strip),
       picPage_("picPage", "Page"),
-      lblUnread_("lblUnread", UnreadText(MostPlaces), [this] { lblUnread_Click(); }),
+      find_(
+          application.desktop, [this] { return ListOnView(); },
+          [this](const std::string& text) { status_.Say(text); }),
+      status_(application, [this] { return ListOnView(); }),
       tmrUpdate_("tmrUpdate", UpdateDelay, [this] { tmrUpdate_Timer(); }) {
     std::vector<Control*> controls = {&picTop_, &picProduct_, &lblProduct_, &picLeft_};
-    std::vector<Accelerator> keys;
+    std::vector<Accelerator> keys = find_.Keys();
+    keys.push_back({{Key::C, true}, "", nullptr, [this] { CopyRow(); }});
+    keys.push_back({{Key::C, true, true}, "", nullptr, [this] { CopyList(); }});
     Layout strip = UniformColumn({});
     for (std::size_t i = 0; i < std::size(Pages); ++i) {
         const PageEntry& entry = Pages[i];
@@ -72,21 +70,23 @@ frmMain::frmMain(Application& application)
         strip.children.push_back(Item(*pageButtons_.back()));
         keys.push_back({{entry.key, true}, std::string(entry.button) + "_Click"});
     }
-    controls.insert(controls.end(), {&picPage_, &lblUnread_, &lblHelp_, &lblAbout_});
+    for (Control* control : find_.Controls()) controls.push_back(control);
+    controls.push_back(&picPage_);
+    for (Control* control : status_.Controls()) controls.push_back(control);
+    controls.insert(controls.end(), {&lblHelp_, &lblAbout_});
     SetControls(std::move(controls));
     SetAccelerators(std::move(keys));
     SetTimers({&tmrUpdate_});
-    SetLayout(Column({Group(picTop_, Row({Item(picProduct_), Item(lblProduct_), Space(),
-                                          Item(lblHelp_), Item(lblAbout_)})),
-                      Row({Group(picLeft_, std::move(strip)),
-                           Column({Item(picPage_, 1), Row({Item(lblUnread_), Space()})}, 1)},
-                          1)}));
-    ShowUnread();
-    application_.unread.SetOnChange([this] { ShowUnread(); });
+    SetLayout(
+        Column({Group(picTop_, Row({Item(picProduct_), Item(lblProduct_), Space(), Item(lblHelp_),
+                                    Item(lblAbout_)})),
+                Row({Group(picLeft_, std::move(strip)),
+                     Column({find_.StripLayout(), Item(picPage_, 1), status_.StripLayout()}, 1)},
+                    1)}));
 }
 
 frmMain::~frmMain() {
-    application_.unread.SetOnChange({});
+    FollowLists({});
 }
 
 void frmMain::Form_Load() {
@@ -100,8 +100,7 @@ void frmMain::Form_Load() {
     GetWindowsName();
     LoadDefinitionLists();
     activePage_ = Pages[0].page;
-    MarkActivePage();
-    application_.forms.Show(activePage_, &picPage_);
+    ShowActivePage();
     tmrUpdate_.SetEnabled(true);
 }
 
@@ -166,9 +165,15 @@ bool frmMain::ShowPage(const std::string& page) {
     if (activePage_ == page) return false;
     application_.forms.Unload(activePage_);
     activePage_ = page;
-    MarkActivePage();
-    application_.forms.Show(page, &picPage_);
+    ShowActivePage();
     return true;
+}
+
+void frmMain::ShowActivePage() {
+    MarkActivePage();
+    application_.forms.Show(activePage_, &picPage_);
+    FollowLists([this] { status_.ShowCounts(); });
+    status_.ShowCounts();
 }
 
 Form* frmMain::LoadPage(const std::string& page) {
@@ -180,6 +185,7 @@ void frmMain::UnloadPage(const std::string& page) {
     if (activePage_ != page) return;
     activePage_.clear();
     MarkActivePage();
+    status_.ShowCounts();
 }
 
 void frmMain::MarkActivePage() {
@@ -195,24 +201,6 @@ void frmMain::lblHelp_Click() {
 
 void frmMain::lblAbout_Click() {
     application_.forms.ShowModal("frmAbout", *this);
-}
-
-void frmMain::ShowUnread() {
-    const std::size_t places = application_.unread.Names().size();
-    lblUnread_.SetVisible(places > 0);
-    lblUnread_.SetText(UnreadText(places > 0 ? places : MostPlaces));
-}
-
-void frmMain::lblUnread_Click() {
-    constexpr std::size_t Shown = 20;  // more would leave the screen
-    const std::vector<std::string> names = application_.unread.Names();
-    std::string text = "What is in these places could not be read, and is not shown:";
-    text.append(LineBreak).append(LineBreak);
-    for (std::size_t i = 0; i < names.size() && i < Shown; ++i) {
-        text.append(names[i]).append(LineBreak);
-    }
-    if (names.size() > Shown) text += "and " + std::to_string(names.size() - Shown) + " more";
-    application_.Tell(MessageIcon::Information, text);
 }
 
 void frmMain::tmrUpdate_Timer() {

@@ -1,6 +1,7 @@
-// The main window: a banner with two links, a strip of six page buttons, the page on view, and
-// below it how many places couldn't be read. It makes the program ready as it loads, and hands over
-// to the update program once, shortly after the first page stands.
+// The main window: a banner with two links, a strip of six page buttons, the page on view between
+// the strips of finding and of status, and the keys that work on the list of any page. It makes the
+// program ready as it loads, and hands over to the update program once, shortly after the first
+// page stands.
 #pragma once
 
 #include <memory>
@@ -9,8 +10,11 @@
 
 #include "forms/Controls.h"
 #include "forms/Form.h"
+#include "forms/ListView.h"
 #include "forms/Timer.h"
 #include "shell/Application.h"
+#include "shell/FindStrip.h"
+#include "shell/StatusStrip.h"
 
 namespace velkarix {
 
@@ -29,7 +33,6 @@ class frmMain : public Form {
 
     void lblHelp_Click();
     void lblAbout_Click();
-    void lblUnread_Click();
     void tmrUpdate_Timer();
 
   private:
@@ -37,10 +40,18 @@ class frmMain : public Form {
     bool ReadAppearance();
     void GetWindowsName();
     void LoadDefinitionLists();
-    void ShowUnread();
     void PageButton_Click(std::size_t button);
     bool ShowPage(const std::string& page);
+    void ShowActivePage();
     void MarkActivePage();
+    void FollowLists(const Handler& onChange);
+    // The list that the user sees; null where the page on view shows none.
+    ListView* ListOnView() const;
+    // Put the selected row, or all with their captions, on the clipboard. Without any they do
+    // nothing.
+    void CopyRow();
+    void CopyList();
+    void Copy(const std::string& text, const char* done);
 
     Application& application_;
     std::string activePage_;
@@ -53,7 +64,8 @@ class frmMain : public Form {
     Panel picLeft_;
     std::vector<std::unique_ptr<Button>> pageButtons_;
     PageHost picPage_;
-    LinkLabel lblUnread_;
+    FindStrip find_;
+    StatusStrip status_;
     Timer tmrUpdate_;
 };
 
