@@ -1,11 +1,12 @@
-// The program on the real machine, as if it were installed in a folder of its own, with a desktop
-// whose windows aren't there.
+// The program on the real machine, as if it were installed in a folder of its own, mostly with a
+// desktop whose windows aren't there.
 #pragma once
 
 #include <string>
 
 #include "DefineForms.h"
 #include "OwnFolder.h"
+#include "platform/win32/Win32Clock.h"
 #include "platform/win32/Win32Machine.h"
 #include "shell/Application.h"
 #include "tests/machine/RecordingDesktop.h"
@@ -22,8 +23,16 @@ class FactsWithFolder : public Win32SystemFacts {
     std::string program_;
 };
 
-struct BenchProgram {
-    BenchProgram() {
+// The machine's clock, whose ticks may stand still: then no time goes by that the user waits.
+class ClockThatStops : public Win32Clock {
+  public:
+    std::uint32_t GetTickCount() override { return stands ? 0 : Win32Clock::GetTickCount(); }
+    bool stands = false;
+};
+
+template <typename DesktopClass>
+struct BenchProgramOn {
+    BenchProgramOn() {
         DefineForms(application);
         application.DisabledRoot = "Software\\Velkarix\\Disabled\\";
         application.WindowsName = "Windows XP";
@@ -37,17 +46,28 @@ struct BenchProgram {
 
     Machine MachineOfProgram() {
         const Machine real = win32.Parts();
-        return {real.registry, real.profileFiles, real.versionResources,
-                real.files,    real.clock,        real.processes,
-                real.token,    real.shell,        real.shortcuts,
-                facts,         real.windows,      real.cryptography};
+        return {real.registry,
+                real.profileFiles,
+                real.versionResources,
+                real.files,
+                clock,
+                real.processes,
+                real.token,
+                real.shell,
+                real.shortcuts,
+                facts,
+                real.windows,
+                real.cryptography};
     }
 
     OwnFolder folder{"Program"};
     FactsWithFolder facts{folder.Path()};
     Win32Machine win32;
-    RecordingDesktop desktop;
+    ClockThatStops clock;
+    DesktopClass desktop;
     Application application{MachineOfProgram(), desktop};
 };
+
+using BenchProgram = BenchProgramOn<RecordingDesktop>;
 
 }  // namespace velkarix

@@ -1,13 +1,17 @@
-// The browser page's list of domains, in a program on the real machine whose windows aren't there.
+// The browser page's list of domains, in a program on the real machine.
 #pragma once
+
+#include <windows.h>
 
 #include <cstddef>
 
 #include "BenchProgram.h"
 #include "browser/frmIE.h"
+#include "forms/win32/Win32Desktop.h"
 
 namespace velkarix {
 
+// Of a program whose windows aren't there.
 class DomainPage {
   public:
     DomainPage() { program_.application.forms.Show("frmIE"); }
@@ -39,6 +43,31 @@ class DomainPage {
     ListView& List() { return program_.Get<ListView>("frmIE", "lstvDomains"); }
 
     BenchProgram program_;
+};
+
+// Of a program on the screen, in the view that shows the list.
+class ShownDomainPage {
+  public:
+    ShownDomainPage() {
+        program_.application.forms.Show("frmMain");
+        program_.Get<Button>("frmMain", "cmdIE").Raise("Click");
+        program_.Get<Button>("frmIE", "cmdDomain").Raise("Click");
+        program_.desktop.YieldEvents();
+    }
+
+    // Whether the user is told how far a load has got.
+    void ShowProgress(bool shown) { program_.clock.stands = !shown; }
+    // By the key, as the user would.
+    void Load() {
+        const Form& page = *program_.application.forms.Loaded("frmIE");
+        const auto window = reinterpret_cast<HWND>(program_.desktop.HandleOf(page));
+        PostMessageA(window, WM_KEYDOWN, VK_F5, 0);
+        program_.desktop.YieldEvents();
+    }
+    std::size_t RowCount() { return program_.Get<ListView>("frmIE", "lstvDomains").RowCount(); }
+
+  private:
+    BenchProgramOn<Win32Desktop> program_;
 };
 
 }  // namespace velkarix

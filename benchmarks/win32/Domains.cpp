@@ -19,6 +19,7 @@ constexpr double GrowthLimit = 2.2;
 // Sorting takes a little more than twice as long, and twice the rows fit fewer caches.
 constexpr double SortLimit = 3;
 constexpr double LoadLimit = 1.5;
+constexpr double ProgressLimit = 1.05;
 // A move reads both places back before it deletes.
 constexpr double MoveLimit = 2.5;
 
@@ -142,6 +143,20 @@ void MeasureMovesOfMany(const DomainMap& map, DomainPage& page) {
                seconds[Disables] / (seconds[Copies] + seconds[LoadsToMove]), LoadLimit);
 }
 
+void MeasureProgress(const DomainMap& map) {
+    Use(map);
+    ShownDomainPage page;
+    const auto load = [&page] {
+        page.Load();
+        if (page.RowCount() != static_cast<std::size_t>(Many)) failed = true;
+    };
+    const std::string of = " of " + std::to_string(Many) + " on the screen";
+    const std::vector<double> seconds = MedianSeconds(
+        {{"LoadDomains" + of + " without progress", load, [&page] { page.ShowProgress(false); }},
+         {"LoadDomains" + of + " with progress", load, [&page] { page.ShowProgress(true); }}});
+    PrintRatio("LoadDomains with progress / without", seconds[1] / seconds[0], ProgressLimit);
+}
+
 }  // namespace
 
 bool MeasureDomains() {
@@ -150,6 +165,7 @@ bool MeasureDomains() {
     Use(whole);
     DomainPage page;
     MeasureLoads(half, whole, page);
+    MeasureProgress(whole);
     MeasureMoves(page);
     MeasureMovesOfMany(whole, page);
     if (failed) std::fprintf(stderr, "the figures of the domains are of no use\n");
