@@ -1,6 +1,7 @@
 #include "shell/ValueMove.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "registry/KeyTree.h"
 #include "registry/RegistryFile.h"
@@ -32,13 +33,26 @@ bool TransferMark(modRegistry& registry, const ValueMove& move) {
     return registry.SetBinaryValue(move.hive, move.destination, move.valueName, bytes, !read);
 }
 
-// True when the move may go on: the value at the key is what is wanted there, or is kept as it was.
-bool KeepWhereItChanges(Application& application, const ValueMove& move, const std::string& key,
-                        const RawValue& value, const RawValue& wanted) {
-    if (wanted.type == value.type && wanted.data == value.data) return true;
-    std::string section;
-    const ErrorCode exported = ExportSection(move.hive, key, {value}, section);
-    return KeepOrTell(application, move.listName, move.operation, exported, section);
+// A value that the move doesn't leave as it is, with its key.
+struct ChangedValue {
+    const std::string& key;
+    const RawValue& value;
+};
+
+// True when the move may go on: what isn't what is wanted is kept as it was. All of it goes into
+// the file at once, since nobody looks after what was written there before.
+bool KeepWhatChanges(Application& application, const ValueMove& move,
+                     const std::vector<ChangedValue>& values, const RawValue& wanted) {
+    std::string sections;
+    for (const auto& [key, value] : values) {
+        if (wanted.type == value.type && wanted.data == value.data) continue;
+        const ErrorCode exported = ExportSection(move.hive, key, {value}, sections);
+        if (exported != error::Success) {
+            return KeepOrTell(application, move.listName, move.operation, exported, {});
+        }
+    }
+    return sections.empty() ||
+           KeepOrTell(application, move.listName, move.operation, error::Success, sections);
 }
 
 ErrorCode ReadDestination(Application& application, const ValueMove& move, RawValue& value) {
@@ -76,10 +90,9 @@ bool MoveValue(Application& application, const ValueMove& move, const ValueForm&
     if (!isFree && there != error::Success) return sayNotDeleted(there);
 
     const RawValue wanted = form.become(value);
-    if (!KeepWhereItChanges(application, move, move.source, value, wanted)) return false;
-    if (!isFree && !KeepWhereItChanges(application, move, move.destination, before, wanted)) {
-        return false;
-    }
+    std::vector<ChangedValue> values = {{move.source, value}};
+    if (!isFree) values.push_back({move.destination, before});
+    if (!KeepWhatChanges(application, move, values, wanted)) return false;
     if (!form.transfer(registry, move)) return false;
     const ErrorCode compared = CompareArrived(application, move, wanted);
     if (compared == error::Success) {
