@@ -32,7 +32,7 @@ std::string CountsText(const ListCounts& counts) {
 StatusStrip::StatusStrip(Application& application, std::function<ListView*()> listOnView)
     : application_(application),
       listOnView_(std::move(listOnView)),
-      picStatus_("picStatus", "", Panel::Look::Drawer),
+      picStatus_("picStatus", "Status", Panel::Look::Drawer),
       lblStatus_("lblStatus", "", Label::Look::Status),
       barProgress_("barProgress", "Progress"),
       lblUnread_("lblUnread", UnreadText(MostPlaces), [this] { lblUnread_Click(); }) {
