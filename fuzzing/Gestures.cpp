@@ -48,6 +48,7 @@ class Hand : public ControlVisitor {
     void Visit(PageHost&) override {}
     void Visit(Panel&) override {}
     void Visit(PictureBox&) override {}
+    void Visit(ProgressBar&) override {}
 
   private:
     int TakeColumn(ListView& list) {

@@ -19,6 +19,7 @@ class ListKeys : public ProgramTest {
         return WaitUntil([&] { return Running().Focus() == name; });
     }
     std::string Status() { return Running().Control("lblStatus").Text(); }
+    RECT ListArea() { return Window(List()).Area(); }
     std::string SelectedName() {
         const std::optional<int> row = List().Selected();
         return row ? List().Text(*row, 0) : "";
@@ -126,11 +127,11 @@ TEST_F(ListKeys, DeleteAsksInTheListAndMeansNothingOnAButton) {
 
 TEST_F(ListKeys, CtrlFFindsRowsByAnyColumnAndEscGoesBackToTheList) {
     SelectRow("SampleIdle.exe");
-    const RECT before = List().Area();
+    const RECT before = ListArea();
     PressKey('F', {VK_CONTROL});
     ASSERT_TRUE(HasFocus("txtFind"));
-    EXPECT_TRUE(WaitUntil([&] { return List().Area().top > before.top; }));
-    EXPECT_EQ(List().Area().bottom, before.bottom);
+    EXPECT_TRUE(WaitUntil([&] { return ListArea().top > before.top; }));
+    EXPECT_EQ(ListArea().bottom, before.bottom);
     Type("SUSPECT");
     PressKey(VK_RETURN);
     EXPECT_TRUE(WaitUntil([this] { return SelectedName() == "SampleSuspect.exe"; }));
@@ -140,7 +141,7 @@ TEST_F(ListKeys, CtrlFFindsRowsByAnyColumnAndEscGoesBackToTheList) {
         << Status();
     PressKey(VK_ESCAPE);
     EXPECT_TRUE(HasFocus("lstvProcess"));
-    EXPECT_TRUE(WaitUntil([&] { return List().Area().top == before.top; }));
+    EXPECT_TRUE(WaitUntil([&] { return ListArea().top == before.top; }));
     EXPECT_FALSE(Running().Control("txtFind").Visible());
 }
 

@@ -13,7 +13,7 @@ class FaultTest {
   public:
     explicit FaultTest(const BrowserFault& fault) : fault_(fault), list_(fault.list) {
         MemoryMachine machine;
-        items_ = fault.prepare(machine);
+        items_ = Put(machine);
         before_ = Flatten(machine);
         for (FaultItem& item : items_) {
             item.original = Standing(machine.registry, item, item.enabled);
@@ -24,7 +24,7 @@ class FaultTest {
         }
     }
 
-    void Prepare(MemoryMachine& machine) const { fault_.prepare(machine); }
+    void Prepare(MemoryMachine& machine) const { Put(machine); }
 
     void Open(RunningProgram& program) const {
         ShowPage(program);
@@ -54,6 +54,12 @@ class FaultTest {
     }
 
   private:
+    // A key that comes into being for an item stays when the item goes: so that everything is as
+    // before afterwards, all of them are there.
+    std::vector<FaultItem> Put(MemoryMachine& machine) const {
+        for (const PlaceCase& place : list_.places) machine.AddKey(place.hive, place.live);
+        return fault_.prepare(machine);
+    }
     // As text; empty when nothing of it is there.
     std::string Standing(const MemoryHives& hives, const FaultItem& item, bool enabled) const {
         const PlaceCase& place = *item.place;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <map>
+#include <string_view>
 
 #include "forms/ComboBox.h"
 #include "forms/ControlVisitor.h"
@@ -36,6 +37,7 @@ class EventNames : public ControlVisitor {
     void Visit(PageHost&) override {}
     void Visit(Panel&) override {}
     void Visit(PictureBox&) override {}
+    void Visit(ProgressBar&) override {}
     void Visit(TabStrip&) override { names = {"Click"}; }
     void Visit(TextBox&) override { names = {"Change"}; }
     void Visit(TreeView&) override { names = {"NodeClick"}; }
@@ -78,6 +80,7 @@ class Gesture : public ControlVisitor {
     void Visit(PageHost&) override {}
     void Visit(Panel&) override {}
     void Visit(PictureBox&) override {}
+    void Visit(ProgressBar&) override {}
     void Visit(TabStrip& control) override {
         const int count = static_cast<int>(control.Captions().size());
         for (int tab = count; tab > 0; --tab) control.UserSelect(tab);
@@ -114,7 +117,7 @@ const std::map<std::string, std::string>& PageButtons() {
             control->Raise("Click");
             for (const std::string& name : forms.Names()) {
                 if (name != MainForm && forms.Loaded(name) != nullptr) {
-                    buttons[name] = control->Name();
+                    buttons.emplace(name, control->Name());
                 }
             }
         }
@@ -136,6 +139,18 @@ void ForEachForm(MemoryMachine& machine, Work work) {
         }
         work(program, *form);
     }
+}
+
+// "Key3_Press": the keys that no control stands for, by their places among the keys of the form.
+constexpr std::string_view KeyName = "Key";
+
+std::vector<std::string> KeysOf(const Form& form) {
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < form.Accelerators().size(); ++i) {
+        if (!form.Accelerators()[i].handler.empty()) continue;
+        names.push_back(std::string(KeyName).append(std::to_string(i)).append("_Press"));
+    }
+    return names;
 }
 
 // The menu that pops up over the list, if there is one.
@@ -167,6 +182,7 @@ std::vector<std::string> AllCommands(MemoryMachine& machine) {
         for (const Timer* timer : form.Timers()) {
             commands.push_back(prefix + timer->Name() + "_Timer");
         }
+        for (const std::string& key : KeysOf(form)) commands.push_back(prefix + key);
         for (const char* event : {LoadEvent, UnloadEvent}) commands.push_back(prefix + event);
     });
     return commands;
@@ -177,6 +193,7 @@ std::vector<CommandRoad> AllRoads(MemoryMachine& machine) {
     std::vector<std::string> menus;  // that popped up
     ForEachForm(machine, [&](RunningProgram& program, Form& form) {
         for (const Accelerator& key : form.Accelerators()) {
+            if (key.handler.empty()) continue;  // a command by itself
             roads.push_back({form.Name() + "'s key", form.Name() + "." + key.handler});
         }
         for (Control* control : form.Controls()) {
@@ -228,6 +245,9 @@ void GiveCommand(RunningProgram& program, const std::string& command) {
     const std::string control = handler.substr(0, mark);
     for (Timer* timer : form->Timers()) {
         if (timer->Name() == control) return timer->Tick();
+    }
+    if (control.starts_with(KeyName)) {
+        return form->Accelerators().at(std::stoul(control.substr(KeyName.size()))).command();
     }
     Control* const found = form->Find(control);
     ASSERT_NE(found, nullptr) << command;

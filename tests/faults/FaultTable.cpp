@@ -54,6 +54,9 @@ constexpr const char* Nothing[] = {
 
     // Dialogs, and pages that keep nothing.
     "frmMain.lblAbout_Click",
+    "frmMain.lblUnread_Click",
+    "frmMain.cmdFind*_Click",
+    "frmMain.Key*_Press",   // find and copy
     "frmMain.Form_Unload",  // the pages keep their own
     "frmAbout.*",
     "frmviewInfo.*",

@@ -56,6 +56,8 @@ class Fault {
         for (const char* folder : {HeldLM, HeldCU}) machine.AddFolder(folder);
         for (const Item& item : scene_.items) {
             if (item.IsValue()) {
+                // One that comes into being for the value stays when the value goes.
+                machine.AddKey(FindRunKey(item.location)->hive, KeyOf(item, true));
                 machine.registry.SetRaw(FindRunKey(item.location)->hive, KeyOf(item, item.enabled),
                                         item.name, item.type, ToBytes(item.content));
             } else {

@@ -53,6 +53,7 @@ std::vector<FaultScene> ControlScenes(const char* command, const char* undoing) 
             PutControls(machine, system, command == RemoveCommand);
         };
         scene.undo = [undoing](MemoryMachine& machine) { GiveOnPage(machine, undoing); };
+        scene.loose = {"C:\\Velkarix\\Backup\\"};  // what is removed is kept there
         for (const char* name : {"{a}", "{b}"}) {
             scene.overwritten.push_back("hklm\\" + ToLower(KeyOf(name)));
         }

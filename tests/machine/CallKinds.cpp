@@ -197,6 +197,7 @@ void EndTrouble(MemoryMachine& machine) {
     machine.Journal().OnCall(SIZE_MAX, nullptr);
     machine.Journal().FailCall(SIZE_MAX, error::Success);
     machine.disk.SetFreeBytes(std::nullopt);
+    machine.files.CloseAllFiles();
 }
 
 std::string Describe(const Trouble& trouble) {

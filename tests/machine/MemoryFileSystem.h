@@ -21,6 +21,8 @@ class MemoryFileSystem : public FileSystem {
     void SetHasPathFileExists(bool there) { hasPathFileExists_ = there; }
     // Files that weren't closed, and searches that weren't.
     std::size_t OpenFileCount() const { return files_.size(); }
+    // As the system does when the process that has opened them ends.
+    void CloseAllFiles() { files_.clear(); }
     std::size_t OpenSearchCount() const { return searches_.size(); }
 
     // The path of every file that was opened to be written, in the order of the openings.

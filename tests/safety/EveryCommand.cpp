@@ -111,7 +111,7 @@ void EveryCommand::Give() {
         const Road& road = roads.front();
         Run run(*this);
         run.Follow(road);
-        if (!known.insert(StateOf(run.Page())).second) continue;
+        if (!known.insert(StateOf(run.Main()) + StateOf(run.Page())).second) continue;
         GiveAt(road);
         std::vector<Gesture> steps = OpenersOn(run.Page());
         if (road.empty()) steps = OpenersOn(run.Main());

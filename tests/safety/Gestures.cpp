@@ -27,6 +27,7 @@ class NoVisit : public ControlVisitor {
     void Visit(PageHost&) override {}
     void Visit(Panel&) override {}
     void Visit(PictureBox&) override {}
+    void Visit(ProgressBar&) override {}
     void Visit(TabStrip&) override {}
     void Visit(TextBox&) override {}
     void Visit(TreeView&) override {}
@@ -170,16 +171,23 @@ void VisitShown(Form& form, ControlVisitor& visitor) {
     for (Control* control : shown) control->Accept(visitor);
 }
 
+// Told as the event whose handler the key runs, if it runs one.
+Gesture KeyOn(const Form& form, const Accelerator& key) {
+    const std::size_t mark = key.handler.rfind('_');
+    const std::string event = mark == std::string::npos ? "Key" : key.handler.substr(mark + 1);
+    const std::string within = key.within == nullptr ? std::string() : key.within->Name();
+    return {form.Name(), key.handler.substr(0, mark), event,
+            [stroke = key.stroke, within](RunningProgram&, Form& same) {
+                same.RaiseKey(stroke, same.Find(within));
+            }};
+}
+
 }  // namespace
 
 std::vector<Gesture> GesturesOn(RunningProgram& program, Form& form) {
     GestureFinder finder(form, &program);
     VisitShown(form, finder);
-    for (const Accelerator& key : form.Accelerators()) {
-        finder.found.push_back({form.Name(), "", "Key", [key](RunningProgram&, Form& same) {
-                                    same.RaiseKey(key.key, key.control);
-                                }});
-    }
+    for (const Accelerator& key : form.Accelerators()) finder.found.push_back(KeyOn(form, key));
     for (std::size_t i = 0; i < form.Timers().size(); ++i) {
         finder.found.push_back({form.Name(), form.Timers()[i]->Name(), "Timer",
                                 [i](RunningProgram&, Form& same) { same.Timers()[i]->Tick(); }});
@@ -190,6 +198,9 @@ std::vector<Gesture> GesturesOn(RunningProgram& program, Form& form) {
 std::vector<Gesture> OpenersOn(Form& form) {
     OpenerFinder finder(form);
     VisitShown(form, finder);
+    for (const Accelerator& key : form.Accelerators()) {
+        if (key.handler.empty()) finder.found.push_back(KeyOn(form, key));
+    }
     return finder.found;
 }
 

@@ -28,6 +28,7 @@ constexpr AllowedChange AllowedChanges[] = {
 
     {"frmProcess", "C:\\Velkarix\\Settings.ini", "the filter is kept"},
     {"frmProcess", "C:\\Velkarix\\SafeProcess.vkl", "the safe list"},
+    {"frmProcess", "C:\\Velkarix\\SafeProcess.vkl.new", "the safe list, until it is written whole"},
     {"frmProcess", "C:\\Velkarix\\Backup", "a deleted file is kept"},
     {"frmProcess", "C:\\Tools", "the file of the process that the user deletes"},
     {"frmProcess", "C:\\WINDOWS\\WinInit.ini", "delete at the next start, on the 95 family"},

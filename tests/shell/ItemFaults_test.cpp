@@ -1,5 +1,8 @@
 #include "tests/shell/ItemFaults.h"
 
+#include <set>
+#include <string>
+
 #include "shell/DeleteItem.h"
 #include "shell/Relocation.h"
 
@@ -25,22 +28,36 @@ void AddItem(MemoryHives& hives, const std::string& key) {
     hives.AddKey(User, key + "\\Sub\\Bare");
 }
 
-// The item as text, below a key of the right name.
-std::string ItemText(bool withMore) {
+// All that is below a key, a line for each key and value; their order isn't the item's.
+std::set<std::string> FactsOf(const MemoryHives& hives, const std::string& key,
+                              const std::string& below = {}) {
+    std::set<std::string> facts = {below + "\\"};
+    for (const std::string& name : hives.ValueNamesOf(User, key + below)) {
+        const MemoryValue value = *hives.ValueAt(User, key + below, name);
+        facts.insert(below + "\\" + name + "=" + std::to_string(value.type) + ":" +
+                     std::string(value.data.begin(), value.data.end()));
+    }
+    for (const std::string& name : hives.SubKeysOf(User, key + below)) {
+        facts.merge(FactsOf(hives, key, below + "\\" + name));
+    }
+    return facts;
+}
+
+std::set<std::string> ItemFacts(bool withMore) {
     MemoryHives hives;
     AddItem(hives, "{0-1}");
     if (withMore) hives.SetValue(User, "{0-1}\\Sub", "Own", "kept");
-    return hives.TreeText(User, "{0-1}");
+    return FactsOf(hives, "{0-1}");
 }
 
 bool HasItem(const MemoryHives& hives, const std::string& key) {
-    static const std::string item = ItemText(false);
-    return hives.TreeText(User, key) == item;
+    static const std::set<std::string> item = ItemFacts(false);
+    return FactsOf(hives, key) == item;
 }
 
 bool HasItemAndMore(const MemoryHives& hives, const std::string& key) {
-    static const std::string item = ItemText(true);
-    return hives.TreeText(User, key) == item;
+    static const std::set<std::string> item = ItemFacts(true);
+    return FactsOf(hives, key) == item;
 }
 
 TEST(ItemFaults, AKeyThatMovesIsNeverLost) {

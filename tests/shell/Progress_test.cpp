@@ -24,6 +24,7 @@ class ProgressTest : public testing::Test, protected Progress::View {
 
     void ShowProgress(const std::string& text, std::optional<double> share) override {
         shown.push_back({text, share});
+        machine.clock.Sleep(timeToShow);
     }
     void EndProgress() override { ++ends; }
     std::vector<double> Shares() const {
@@ -35,6 +36,7 @@ class ProgressTest : public testing::Test, protected Progress::View {
     MemoryMachine machine;
     Progress progress{machine.clock};
     std::vector<Shown> shown;
+    std::uint32_t timeToShow = 0;  // milliseconds
     int ends = 0;
 };
 
@@ -70,6 +72,14 @@ TEST_F(ProgressTest, ShowsNoMoreThanTenStepsASecond) {
     for (int i = 0; i < 3000; ++i) work.Step("item");
     EXPECT_LE(shown.size(), 30u);
     EXPECT_GE(shown.size(), 28u);
+}
+
+TEST_F(ProgressTest, LeavesTheWorkItsTimeHoweverLongItTakesToShow) {
+    machine.clock.SetTickStep(10);
+    timeToShow = 500;
+    Progress::Work work(progress, "Items", 40);
+    for (int i = 0; i < 40; ++i) work.Step("item");
+    EXPECT_LE(shown.size(), 4u);
 }
 
 TEST_F(ProgressTest, GoesOnWhenTheTicksBeginAnew) {

@@ -73,6 +73,7 @@ TEST_F(TextReplacement, IsFinishedByTheNextReader) {
             cut.Journal().EndAtCall(SIZE_MAX);
             cut.Journal().OnCall(SIZE_MAX, nullptr);
             cut.disk.SetFreeBytes(std::nullopt);
+            cut.files.CloseAllFiles();
             std::string text;
             EXPECT_EQ(ReadReplacedTextFile(cut.files, Path, text), error::Success);
             EXPECT_TRUE(text == "the old text\r\n" || text == "the new text\r\n") << call << text;
