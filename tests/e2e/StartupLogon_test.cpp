@@ -45,24 +45,35 @@ class EverySystemStartupLogon : public StartupTest {
     std::string LogOf(const StartupItem& item) const {
         return install_.Read(std::string(item.title) + ".log");
     }
-    // Has the system log the user on. The titles of the items that it has started.
-    std::vector<std::string> LogOn() {
+    std::vector<const StartupItem*> All() const {
         std::vector<const StartupItem*> all = {&witness_};
         for (const StartupItem& item : Started) all.push_back(&item);
-        for (const StartupItem* item : all) install_.Remove(std::string(item->title) + ".log");
-        EXPECT_EQ(Process("wineboot.exe").WaitForExit(), 0u);
-        EXPECT_TRUE(WaitUntil([&] { return !LogOf(witness_).empty(); })) << "no logon";
-        // Everything has been started by now; this is for writing it down.
-        Sleep(ForWriting);
+        return all;
+    }
+    // The titles of the items that have written down that they were started.
+    std::vector<std::string> StartedTitles() const {
         std::vector<std::string> titles;
-        for (const StartupItem* item : all) {
-            const std::string log = LogOf(*item);
-            if (log.empty()) continue;
-            EXPECT_EQ(log.find("command: \"" + ProgramOf(*item) + "\" /logon\r\n"), 0u) << log;
-            titles.emplace_back(item->title);
+        for (const StartupItem* item : All()) {
+            if (!LogOf(*item).empty()) titles.emplace_back(item->title);
         }
         std::ranges::sort(titles);
         return titles;
+    }
+    // Has the system log the user on, which starts these items and no others.
+    void ExpectLogOnStarts(const std::vector<std::string>& titles) {
+        for (const StartupItem* item : All()) {
+            install_.Remove(std::string(item->title) + ".log");
+        }
+        EXPECT_EQ(Process("wineboot.exe").WaitForExit(), 0u);
+        WaitUntil([&] { return StartedTitles() == titles; });
+        // Everything has been started by now; this is for writing down what isn't to be.
+        Sleep(ForWriting);
+        EXPECT_EQ(StartedTitles(), titles);
+        for (const StartupItem* item : All()) {
+            const std::string log = LogOf(*item);
+            if (log.empty()) continue;
+            EXPECT_EQ(log.find("command: \"" + ProgramOf(*item) + "\" /logon\r\n"), 0u) << log;
+        }
     }
     // Ticks all rows but the witness's, and gives the command.
     void MoveAll(bool enabled) {
@@ -80,13 +91,12 @@ class EverySystemStartupLogon : public StartupTest {
 TEST_F(EverySystemStartupLogon, WhatIsDisabledIsNotStartedUntilItIsEnabledAgain) {
     MoveAll(true);
     const StartupState disabled = ReadState();
-    EXPECT_EQ(LogOn(), std::vector<std::string>{"Witness"});
+    ExpectLogOnStarts({"Witness"});
     EXPECT_EQ(ReadState(), disabled) << "the system takes away what it doesn't know";
 
     MoveAll(false);
-    EXPECT_EQ(LogOn(),
-              (std::vector<std::string>{"MachineRun", "MachineRunOnce", "MachineRunServicesOnce",
-                                        "UserFolder", "UserRun", "Witness"}));
+    ExpectLogOnStarts({"MachineRun", "MachineRunOnce", "MachineRunServicesOnce", "UserFolder",
+                       "UserRun", "Witness"});
     // What runs once is gone then, and isn't listed any more.
     OpenStartup();
     for (const StartupItem& item : Started) {
