@@ -16,12 +16,12 @@ bool IsMessageBox(const Window& window) {
     return IsSystemDialog(window) && GetDlgItem(window.Handle(), MessageTextId) != nullptr;
 }
 
-// None as soon as the process has ended.
+// The one in front; none as soon as the process has ended.
 Window FirstWindow(const Process& process, bool (*isWanted)(const Window&)) {
     Window found;
     WaitUntil([&] {
         for (const Window& window : TopWindows(process.Id())) {
-            if (isWanted(window)) found = window;
+            if (!found && isWanted(window)) found = window;
         }
         return found || !process.Running();
     });
