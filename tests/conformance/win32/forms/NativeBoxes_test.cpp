@@ -89,10 +89,10 @@ class DialogWithBox : public Form {
     }
     void Form_Load() override {
         const auto form = reinterpret_cast<HWND>(desktop_.HandleOf(*this));
-        const HWND box = GetWindow(form, GW_CHILD);
+        const HWND box = FindWindowExA(form, nullptr, "COMBOBOX", nullptr);
         PostMessageA(box, WM_KEYDOWN, VK_F4, 1);
         PostMessageA(box, WM_KEYDOWN, VK_ESCAPE, 1);
-        PostMessageA(GetWindow(box, GW_HWNDNEXT), BM_CLICK, 0, 0);
+        PostMessageA(FindWindowExA(form, nullptr, "BUTTON", nullptr), BM_CLICK, 0, 0);
         PostMessageA(box, WM_KEYDOWN, VK_ESCAPE, 1);
     }
 
