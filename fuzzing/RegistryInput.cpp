@@ -100,6 +100,28 @@ RawValue TakeValue(FuzzInput& input) {
     return {"", type, input.Data()};
 }
 
+bool HasControls(std::string_view name) {
+    return std::any_of(name.begin(), name.end(),
+                       [](char c) { return static_cast<unsigned char>(c) < ' '; });
+}
+
+bool CanBeWritten(std::string_view name) {
+    for (std::size_t i = 0; i + 1 < name.size(); ++i) {
+        if (static_cast<unsigned char>(name[i]) >= 0x80 && name[i + 1] == '\\') return false;
+    }
+    return !HasControls(name);
+}
+
+bool CanBeWritten(const MemoryHives& hives, Hive hive, const std::string& key) {
+    const std::vector<std::string> values = hives.ValueNamesOf(hive, key);
+    const std::vector<std::string> below = hives.SubKeysOf(hive, key);
+    return std::all_of(values.begin(), values.end(),
+                       [](const std::string& name) { return CanBeWritten(name); }) &&
+           std::all_of(below.begin(), below.end(), [&](const std::string& name) {
+               return !HasControls(name) && CanBeWritten(hives, hive, key + "\\" + name);
+           });
+}
+
 FuzzSeed& PutValue(FuzzSeed& seed, std::uint32_t type, std::string_view data) {
     return seed.Byte(Literal).Byte(type).Text(data);
 }

@@ -4,9 +4,11 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 #include "fuzzing/FuzzTarget.h"
 #include "registry/RawValue.h"
+#include "tests/machine/MemoryHives.h"
 
 namespace velkarix {
 
@@ -22,6 +24,12 @@ std::string TakeValueName(FuzzInput& input);
 std::string TakeKeyName(FuzzInput& input);
 // Without a name.
 RawValue TakeValue(FuzzInput& input);
+
+// Whether a registry file can hold a value of that name, or a key with all below it: no control
+// characters can stand there, nor in a value's name a backslash that may be half of a character.
+bool HasControls(std::string_view name);
+bool CanBeWritten(std::string_view name);
+bool CanBeWritten(const MemoryHives& hives, Hive hive, const std::string& key);
 
 // Writes a value with its own type and bytes.
 FuzzSeed& PutValue(FuzzSeed& seed, std::uint32_t type, std::string_view data);
