@@ -167,6 +167,7 @@ TEST_P(FileConformance, APathMayBeTakenAsItStands) {
     EXPECT_EQ(files_.PathFileExistsA(path), true);
     EXPECT_EQ(files_.PathFileExistsA(path + "x"), false);
     EXPECT_EQ(files_.PathFileExistsA("\\\\?\\" + In("x/../file.txt")), false);
+    EXPECT_EQ(files_.PathFileExistsA("\\\\?\\"), false);
     FoundFile found;
     const SearchHandle search = files_.FindFirstFileA(path, found);
     ASSERT_NE(search, 0u);

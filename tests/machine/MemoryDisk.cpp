@@ -80,7 +80,8 @@ MemoryDisk::MemoryDisk() : currentFolder_("C:\\Velkarix") {
 
 std::optional<MemoryDisk::Parts> MemoryDisk::Split(const std::string& path) const {
     // Taken as it stands, at any length.
-    const bool isLiteral = path.starts_with(literal) && path.substr(literal.size() + 1, 2) == ":\\";
+    const bool isLiteral =
+        path.starts_with(literal) && path.find(":\\", literal.size()) == literal.size() + 1;
     if (isLiteral && path.find_first_of("<>|\"*?/", literal.size()) == std::string::npos) {
         Parts parts{path.substr(literal.size(), 2), {}};
         AppendLevels(path.substr(literal.size() + 2), parts.levels);
