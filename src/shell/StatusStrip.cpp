@@ -52,7 +52,8 @@ std::vector<Control*> StatusStrip::Controls() {
 }
 
 Layout StatusStrip::StripLayout() {
-    return Group(picStatus_, Row({Item(lblStatus_, 1), Item(barProgress_), Item(lblUnread_)}));
+    return Group(picStatus_,
+                 Row({Item(lblStatus_, 1), Stack({Item(barProgress_), Item(lblUnread_)})}));
 }
 
 // A change of a list within some work is one of many; its end is waited for.
@@ -71,18 +72,26 @@ void StatusStrip::ShowProgress(const std::string& text, std::optional<double> sh
     lblStatus_.SetText(text);
     lblStatus_.ShowNow();
     barProgress_.SetPercent(static_cast<int>(share.value_or(0) * 100));
-    if (barProgress_.Visible() != share.has_value()) barProgress_.SetVisible(share.has_value());
+    ShowBar(share.has_value());
     barProgress_.ShowNow();
 }
 
 void StatusStrip::EndProgress() {
-    if (barProgress_.Visible()) barProgress_.SetVisible(false);
+    ShowBar(false);
     ShowCounts();
+}
+
+// The bar stands where the unread places are told, which are told again afterwards.
+void StatusStrip::ShowBar(bool visible) {
+    if (barProgress_.Visible() == visible) return;
+    if (visible) lblUnread_.SetVisible(false);
+    barProgress_.SetVisible(visible);
+    ShowUnread();
 }
 
 void StatusStrip::ShowUnread() {
     const std::size_t places = application_.unread.Names().size();
-    lblUnread_.SetVisible(places > 0);
+    lblUnread_.SetVisible(places > 0 && !barProgress_.Visible());
     lblUnread_.SetText(UnreadText(places > 0 ? places : MostPlaces));
 }
 

@@ -34,6 +34,7 @@ class StatusStrip : private Progress::View {
   private:
     void ShowProgress(const std::string& text, std::optional<double> share) override;
     void EndProgress() override;
+    void ShowBar(bool visible);
     void ShowUnread();
     void lblUnread_Click();
 

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "forms/ProgressBar.h"
 #include "tests/machine/TestProgram.h"
 
 namespace velkarix {
@@ -42,6 +43,23 @@ TEST_F(UnreadLine, CountsThePlacesAndNamesThemOnAClick) {
     EXPECT_EQ(program.desktop.messages.back().icon, MessageIcon::Information);
     for (const char* place : {"C:\\One", "C:\\Two"}) Unread().Note(place, "", true);
     EXPECT_FALSE(Line().Visible());
+}
+
+TEST_F(UnreadLine, GivesItsPlaceToTheBarMeanwhile) {
+    program.Start();
+    Unread().Note("C:\\One", "", false);
+    {
+        Progress::Work work(program.application.progress, "Items", 2);
+        program.machine.clock.Sleep(1000);
+        work.Step("item");
+        EXPECT_TRUE(program.Get<ProgressBar>("frmMain", "barProgress").Visible());
+        EXPECT_FALSE(Line().Visible());
+        Unread().Note("C:\\Two", "", false);
+        EXPECT_FALSE(Line().Visible());
+    }
+    EXPECT_FALSE(program.Get<ProgressBar>("frmMain", "barProgress").Visible());
+    EXPECT_TRUE(Line().Visible());
+    EXPECT_EQ(Line().Text(), "2 places could not be read");
 }
 
 TEST_F(UnreadLine, NamesNoMoreThanAScreenHolds) {
