@@ -3,12 +3,16 @@
 // another key.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "platform/Registry.h"
 #include "registry/RawValue.h"
 
 namespace velkarix {
+
+// One call of the system takes no longer path, in bytes.
+inline constexpr std::size_t LongestPath = 259;
 
 class OpenKey {
   public:
@@ -19,16 +23,34 @@ class OpenKey {
 
     // Each gives the system's code; the key is open on Success.
     ErrorCode Create(KeyHandle parent, const std::string& subKey) {
-        if (!IsReachable(subKey)) return error::InvalidData;
-        return registry_.RegCreateKeyA(parent, subKey, handle_);
+        return Go(parent, subKey, true, [this](KeyHandle above, const std::string& rest) {
+            return registry_.RegCreateKeyA(above, rest, handle_);
+        });
     }
     ErrorCode Open(KeyHandle parent, const std::string& subKey) {
-        if (!IsReachable(subKey)) return error::InvalidData;
-        return registry_.RegOpenKeyA(parent, subKey, handle_);
+        return Go(parent, subKey, false, [this](KeyHandle above, const std::string& rest) {
+            return registry_.RegOpenKeyA(above, rest, handle_);
+        });
     }
     ErrorCode Open(KeyHandle parent, const std::string& subKey, KeyAccess access) {
+        return Go(parent, subKey, false, [this, access](KeyHandle above, const std::string& rest) {
+            return registry_.RegOpenKeyExA(above, rest, access, handle_);
+        });
+    }
+    // Gives `call` the whole path; of one that is too long for a call the end, with the key that
+    // its beginning leads to, which is made when it is missing and `make` says so.
+    template <typename Call>
+    ErrorCode Go(KeyHandle parent, const std::string& subKey, bool make, const Call& call) {
         if (!IsReachable(subKey)) return error::InvalidData;
-        return registry_.RegOpenKeyExA(parent, subKey, access, handle_);
+        const bool isLong = subKey.size() > LongestPath;
+        const std::size_t cut = isLong ? subKey.rfind('\\', LongestPath) : std::string::npos;
+        if (cut == std::string::npos || cut == 0) return call(parent, subKey);
+        OpenKey above(registry_);
+        const std::string beginning = subKey.substr(0, cut);
+        const ErrorCode opened =
+            make ? above.Create(parent, beginning) : above.Open(parent, beginning);
+        if (opened != error::Success) return opened;
+        return above.Go(above.handle_, subKey.substr(cut + 1), make, call);
     }
     // Closes at once. A key that isn't open is closed already.
     ErrorCode Close() {

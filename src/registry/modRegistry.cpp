@@ -69,9 +69,10 @@ bool modRegistry::CreateKey(Hive hive, const std::string& key) {
 // ---- Deleting
 
 bool modRegistry::DeleteKey(Hive hive, const std::string& key, bool quiet) {
-    const ErrorCode deleted = IsReachable(key)
-                                  ? registry_.RegDeleteKeyA(Registry::HandleOf(hive), key)
-                                  : error::InvalidData;
+    const ErrorCode deleted = OpenKey(registry_).Go(
+        Registry::HandleOf(hive), key, false, [this](KeyHandle above, const std::string& rest) {
+            return registry_.RegDeleteKeyA(above, rest);
+        });
     if (deleted != error::Success && !quiet) ShowKeyNotDeleted(key, deleted);
     return deleted == error::Success;
 }
@@ -131,7 +132,9 @@ bool modRegistry::CopyKey(Hive srcHive, const std::string& srcKey, Hive destHive
     const KeyHandle source = Registry::HandleOf(srcHive);
     OpenKey destination(registry_);
     if (destination.Open(source, destKey, KeyAccess::Write) != error::Success) return false;
-    ErrorCode copied = registry_.SHCopyKeyA(source, srcKey, destination.Handle());
+    const bool isLong = srcKey.size() > LongestPath;
+    ErrorCode copied =
+        isLong ? error::ProcNotFound : registry_.SHCopyKeyA(source, srcKey, destination.Handle());
     if (copied == error::ProcNotFound) {
         copied = CopyKeyTree(registry_, source, srcKey, destination.Handle());
     }

@@ -1,6 +1,5 @@
 // Names of any length and any characters, in every place that lists things by their names: which
 // rows there are, whose facts each shows, and what the commands on a row reach.
-#include <algorithm>
 #include <ostream>
 #include <utility>
 
@@ -154,21 +153,6 @@ class FieldNames : public FieldPages, public testing::WithParamInterface<Combina
         if (!place.rows.disable) return row.Key();
         return text.substr(std::string(place.textPrefix).size());
     }
-    // One call takes a path of so many bytes, whatever the levels.
-    static constexpr std::size_t LongestPath = 260;
-    // Whether what the row shows besides the name can be asked for.
-    bool CanBeRead() {
-        const bool isClass = place.values || place.name == std::string("BHOs");
-        const std::string path = isClass ? "CLSID\\" + name.listed + "\\InprocServer32"
-                                         : place.live + ("\\" + name.listed);
-        return place.name == std::string("Startup") || path.size() <= LongestPath;
-    }
-    // Whether the commands reach both places of the item.
-    bool CanBeMoved() {
-        const std::size_t longest =
-            std::max(std::string(place.live).size(), std::string(place.held).size());
-        return place.values || longest + 1 + name.listed.size() <= LongestPath;
-    }
     bool EndsList() { return place.values ? name.endsListOfValues : name.endsListOfKeys; }
 
     // What the list is to show; a startup value tells its own command, whatever its name is.
@@ -178,8 +162,7 @@ class FieldNames : public FieldPages, public testing::WithParamInterface<Combina
         if (EndsList()) return expected;
         expected.push_back("{z} = last");
         if (name.isReachable) {
-            const std::string own = name.listed + (CanBeRead() ? " = own" : " =");
-            if (CanBeRead() || place.nameMakesARow) expected.push_back(own);
+            expected.push_back(name.listed + " = own");
         } else if (name.listed != name.namesake || isStartup) {
             if (place.nameMakesARow)
                 expected.push_back(name.listed + (isStartup ? " = own" : " ="));
@@ -212,7 +195,7 @@ TEST_P(FieldNames, AreReachedByTheirOwnRowAlone) {
     const std::string text =
         isApplication ? FileOf("own") : std::string(place.textPrefix) + name.listed;
     if (RowOf(place.rows, text) == nullptr) return;
-    if (name.isReachable && CanBeMoved()) {
+    if (name.isReachable) {
         GoOffAndOnAndAway(place.rows,
                           {place.hive, place.live, place.held, name.listed, place.values}, text);
     } else if (name.listed != name.namesake) {

@@ -134,6 +134,26 @@ TEST_F(modRegistryTest, DeleteKeyFailsInSilenceWhenQuiet) {
     EXPECT_TRUE(desktop.messages.empty());
 }
 
+// One call takes 260 bytes.
+TEST_F(modRegistryTest, GoesThroughLongPathsInSeveralCalls) {
+    const std::string longKey = "Software\\" + std::string(200, 'a') + "\\" +
+                                std::string(200, 'b') + "\\" + std::string(200, 'c');
+    const std::string copy = "Software\\" + std::string(250, 'd') + "\\" + std::string(250, 'e');
+    EXPECT_TRUE(registry.SetStringValue(User, longKey, "Name", "text"));
+    EXPECT_EQ(registry.GetStringValue(User, longKey, "Name"), "text");
+    EXPECT_TRUE(registry.CreateKey(User, longKey + "\\Below"));
+    EXPECT_TRUE(registry.CopyKey(User, longKey, User, copy));
+    EXPECT_EQ(machine.registry.TextAt(User, copy, "Name"), "text");
+    EXPECT_TRUE(machine.registry.HasKey(User, copy + "\\Below"));
+    EXPECT_TRUE(registry.DeleteSubKeys(User, longKey));
+    EXPECT_TRUE(registry.DeleteKey(User, longKey, true));
+    EXPECT_FALSE(machine.registry.HasKey(User, longKey));
+    EXPECT_FALSE(registry.DeleteKey(User, longKey + "\\x", true));
+    EXPECT_EQ(registry.GetStringValue(User, longKey + "\\x", "Name"), "");
+    EXPECT_EQ(machine.registry.OpenKeyCount(), 0u);
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
 TEST_F(modRegistryTest, TellsOfANameWithANulToTheEnd) {
     EXPECT_FALSE(registry.DeleteKey(User, std::string("Key\0x", 5), false));
     ASSERT_EQ(desktop.messages.size(), 1u);
@@ -291,9 +311,12 @@ TEST_F(modRegistryTest, DeleteSubKeysEndsWhenLinksLeadRoundInACircle) {
     // Each key seems to hold two more, as with two links back to itself.
     struct CircularRegistry : MemoryRegistry {
         using MemoryRegistry::MemoryRegistry;
-        ErrorCode RegOpenKeyExA(KeyHandle parent, const std::string&, KeyAccess access,
+        ErrorCode RegOpenKeyExA(KeyHandle, const std::string&, KeyAccess access,
                                 KeyHandle& opened) override {
-            return MemoryRegistry::RegOpenKeyExA(parent, "Software", access, opened);
+            return MemoryRegistry::RegOpenKeyExA(HandleOf(User), "Software", access, opened);
+        }
+        ErrorCode RegOpenKeyA(KeyHandle, const std::string&, KeyHandle& opened) override {
+            return MemoryRegistry::RegOpenKeyA(HandleOf(User), "Software", opened);
         }
         ErrorCode RegEnumKeyA(KeyHandle, std::uint32_t index, std::uint32_t,
                               std::string& name) override {
