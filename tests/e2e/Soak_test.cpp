@@ -19,6 +19,7 @@ namespace {
 constexpr const char* LiveDomains =
     "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\ZoneMap\\Domains";
 constexpr const char* HeldDomains = "Software\\Velkarix\\Disabled\\Domains";
+constexpr DWORD LongPatience = 120000;  // milliseconds
 
 class Soak : public StartupTest {
   protected:
@@ -45,12 +46,14 @@ class Soak : public StartupTest {
         const int rounds = Share(fullRounds);
         constexpr int FirstTimes = 17;  // what is made once and kept is there by then
         for (int i = 0; i < FirstTimes; ++i) round();
-        const ObjectCounts objects = LeastObjects(Running());
+        ObjectCounts objects = LeastObjects(Running());
         const MemoryUse before = MeasureMemory(Running());
         ASSERT_GT(before.blocks, 0u);
         for (int i = 0; i < rounds && !HasFailure(); ++i) round();
         const MemoryUse after = MeasureMemory(Running());
         Print(what, rounds, objects, before, after);
+        // What Wine keeps for drawing isn't counted to the last object; one lost in each round is.
+        objects.gdi += static_cast<DWORD>(rounds / 2);
         ExpectNoMoreObjects(Running(), objects);
         // A single piece that is lost in each round, however small.
         EXPECT_LT(after.blocks, before.blocks + static_cast<std::size_t>(rounds) / 2) << what;
@@ -61,11 +64,18 @@ class Soak : public StartupTest {
         EXPECT_LE(after.privateBytes, before.privateBytes + before.privateBytes / 20) << what;
     }
 
-    void PressAll(std::initializer_list<const char*> buttons) {
-        for (const char* button : buttons) ASSERT_TRUE(Running().Press(button)) << button;
+    void PressAll(std::initializer_list<const char*> names) {
+        for (const char* name : names) ASSERT_TRUE(Press(Running().Control(name))) << name;
     }
 
   private:
+    // Comes back when what the button does is done; other programs may have the machine meanwhile.
+    static bool Press(const Window& button) {
+        DWORD_PTR result = 0;
+        return button.Visible() && button.Enabled() &&
+               SendMessageTimeoutA(button.Handle(), BM_CLICK, 0, 0, SMTO_NORMAL, LongPatience,
+                                   &result) != 0;
+    }
     void Print(const char* what, int rounds, const ObjectCounts& objects, const MemoryUse& before,
                const MemoryUse& after) {
         const ObjectCounts now = LeastObjects(Running());
@@ -114,8 +124,11 @@ TEST_F(Soak, WhateverIsDoneManyTimesLeavesWhatTheProgramHoldsAsItWas) {
     ASSERT_EQ(AskInside(Running().Main(), SkipSaveDialogQuestion), "ready");
     PressAll({"cmdOptions", "chkProcess", "chkIE", "chkStartup", "chkAddremove"});
     Repeat("full reports", 100, BrowserLabels, [this] {
+        const Window button = Running().Control("cmdReport");
         install_.Remove(SavedName);
-        PressAll({"cmdReport"});
+        ASSERT_TRUE(button.Click());
+        ASSERT_TRUE(WaitUntil([&] { return install_.Exists(SavedName) && button.Enabled(); },
+                              LongPatience));
         EXPECT_GT(install_.Read(SavedName).size(), 1000u);
     });
 }

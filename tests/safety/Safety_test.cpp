@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <iterator>
+#include <map>
 #include <set>
 
 #include "tests/safety/EveryCommand.h"
@@ -26,12 +28,16 @@ TEST(Safety, EveryCommandChangesStartsAndEndsNothingButWhatItIsFor) {
         {PutSafetyMachine, MessageAnswer::No},
         {PutOlderSafetyMachine, MessageAnswer::Yes},
     };
+    std::map<std::string, std::size_t> neverSeen;
     for (const auto& [prepare, answer] : occasions) {
         EveryCommand all(prepare, answer, SafetyReport, listen);
         all.Give();
-        EXPECT_EQ(all.NeverSeen(), Texts());
+        for (const std::string& name : all.NeverSeen()) ++neverSeen[name];
         count += all.Count();
     }
+    // Some show themselves on some machines only.
+    std::erase_if(neverSeen, [&](const auto& each) { return each.second < std::size(occasions); });
+    EXPECT_EQ(neverSeen, (std::map<std::string, std::size_t>()));
     EXPECT_EQ(complaints, std::set<std::string>());
     EXPECT_EQ(rules.UnusedRows(), Texts());
     std::printf("%zu commands\n", count);
