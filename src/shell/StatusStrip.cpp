@@ -70,9 +70,9 @@ void StatusStrip::Say(const std::string& text) {
 
 void StatusStrip::ShowProgress(const std::string& text, std::optional<double> share) {
     lblStatus_.SetText(text);
-    lblStatus_.ShowNow();
     barProgress_.SetPercent(static_cast<int>(share.value_or(0) * 100));
     ShowBar(share.has_value());
+    lblStatus_.ShowNow();
     barProgress_.ShowNow();
 }
 

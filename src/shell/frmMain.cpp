@@ -185,7 +185,6 @@ void frmMain::UnloadPage(const std::string& page) {
     if (activePage_ != page) return;
     activePage_.clear();
     MarkActivePage();
-    status_.ShowCounts();
 }
 
 void frmMain::MarkActivePage() {

@@ -103,8 +103,6 @@ void PutOnBoth(MemoryMachine& machine) {
 
 void PutSafetyMachine(MemoryMachine& machine) {
     PutOnBoth(machine);
-    // The main window tells of a place that can't be read.
-    machine.AddFile("C:\\Velkarix\\SusCLSID.vkl").Unreadable();
     PutBackups(machine);
     PutHeldShortcuts(machine);
 }

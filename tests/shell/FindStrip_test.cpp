@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "tests/forms/CountingView.h"
 #include "tests/machine/TestProgram.h"
 
 namespace velkarix {
@@ -98,6 +99,27 @@ TEST_F(FindStripTest, SelectsTheRowAsTheUserWould) {
     Press({Key::F3, false, true});
     Find("zeta");
     EXPECT_TRUE(program.Get<Button>("frmProcess", "cmdDelete").Enabled());
+}
+
+TEST_F(FindStripTest, ShowsTheRowThatIsFound) {
+    CountingView view;
+    List().AttachView(&view);
+    Find("zeta");
+    EXPECT_EQ(view.Times(Aspect::Selection), 1);
+    List().AttachView(nullptr);
+}
+
+TEST_F(FindStripTest, LeavesEnterToWhateverElseHasTheFocus) {
+    Find("zeta");
+    EXPECT_FALSE(Press({Key::Enter}, "cmdFindPrevious"));
+    EXPECT_FALSE(Press({Key::Enter, false, true}, "cmdProcess"));
+    EXPECT_EQ(Selected(), "zeta.exe");
+}
+
+TEST_F(FindStripTest, CountsAgainWhenItIsClosed) {
+    Find("absent");
+    Press({Key::Escape}, "txtFind");
+    EXPECT_EQ(Status(), "4 rows");
 }
 
 TEST_F(FindStripTest, ClosesAndGivesTheKeyboardBackToTheList) {

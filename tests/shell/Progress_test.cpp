@@ -57,6 +57,7 @@ TEST_F(ProgressTest, ShowsNoShareWhereNobodyKnowsHowMuchThereIs) {
 }
 
 TEST_F(ProgressTest, ShowsNothingOfWhatIsDoneAtOnce) {
+    machine.clock.Sleep(1000);
     machine.clock.SetTickStep(1);
     {
         Progress::Work work(progress, "Items", 50);

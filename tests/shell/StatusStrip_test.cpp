@@ -4,18 +4,21 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
 #include <string>
 #include <vector>
 
 #include "forms/TabStrip.h"
 #include "tests/machine/TestProgram.h"
+#include "tests/startup/StartupPage.h"
 
 namespace velkarix {
 namespace {
 
 constexpr const char* Domains =
     "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\ZoneMap\\Domains\\";
-constexpr const char* RunKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+constexpr const char* RunValues = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
 constexpr const char* Uninstall = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
 
 class StatusStripTest : public testing::Test {
@@ -30,7 +33,7 @@ class StatusStripTest : public testing::Test {
         program.machine.SetDword(Hive::CurrentUser, enabled ? live : held, "*", 4);
     }
     void AddRunValue(const std::string& name) {
-        program.machine.SetValue(Hive::CurrentUser, RunKey, name, "C:\\gone.exe");
+        program.machine.SetValue(Hive::CurrentUser, RunValues, name, "C:\\gone.exe");
     }
     void AddApplication(const std::string& key) {
         for (const char* name : {"DisplayName", "UninstallString"}) {
@@ -150,13 +153,19 @@ class BusyTest : public StatusStripTest, protected ControlView {
     }
     void EndWatch() { program.Get<Label>("frmMain", "lblStatus").AttachView(nullptr); }
     void Changed(Aspect aspect) override {
-        if (aspect == Aspect::Now) seen.push_back(Status());
+        if (aspect == Aspect::Now) {
+            seen.push_back(Status());
+            percents[Status()] = Bar().Percent();
+        }
+        if (aspect == Aspect::Text) ++changes;
     }
     bool Saw(const std::string& text) const {
         return std::find(seen.begin(), seen.end(), text) != seen.end();
     }
 
     std::vector<std::string> seen;
+    std::map<std::string, int> percents;  // of the bar, with each text
+    int changes = 0;                      // of the text, whether it was to be seen at once or not
 };
 
 TEST_F(BusyTest, SaysWhatEachPageLooksAtAndServesNoEvents) {
@@ -222,7 +231,7 @@ TEST_F(BusyTest, SaysWhichAreaAFullReportIsAt) {
     EXPECT_TRUE(Saw("Full report: Internet Explorer"));
     EXPECT_TRUE(Saw("Domains: one.example"));
     EXPECT_TRUE(Saw("Report: Domains: *.one.example"));
-    EXPECT_TRUE(Saw("Full report: Startup"));
+    EXPECT_EQ(percents["Full report: Startup"], 90);  // the last of ten blocks begins
     EXPECT_EQ(Status(), "No rows");
 }
 
@@ -250,7 +259,17 @@ TEST_F(BusyTest, SaysWhichStartupItemMoves) {
     EXPECT_EQ(seen, (std::vector<std::string>{"Startup items: Tray", "Startup items: Tray"}));
 }
 
-TEST_F(BusyTest, SaysWhichShortcutAndWhichBackupIsRead) {
+TEST_F(BusyTest, SaysWhichShortcutIsRead) {
+    PutStartupFolders(program.machine);
+    PutShortcut(program.machine, LiveCU, "Tray.lnk", "C:\\gone.exe");
+    program.Start();
+    Watch();
+    ClickPage("cmdStartup");
+    EndWatch();
+    EXPECT_EQ(seen, std::vector<std::string>{"Startup items: Tray.lnk"});
+}
+
+TEST_F(BusyTest, SaysWhichBackupIsRead) {
     program.AddInstalledFile("backup\\1.prc").Content("C:\\one.exe\00110/5/2004\r\n");
     program.Start();
     Watch();
@@ -271,14 +290,63 @@ TEST_F(BusyTest, SaysWhichControlIsForbidden) {
     EXPECT_EQ(Status(), "");
 }
 
-TEST_F(BusyTest, ShowsNothingWhereNoTimeGoesBy) {
-    AddProcess(1, "C:\\one.exe", "a");
+// Each place holds too little for the user to wait for; all of them together don't.
+TEST_F(BusyTest, CountsTheTimeOfAllPlacesOfAListTogether) {
+    AddDomain("one.example");
+    AddDomain("two.example", false);
+    program.Start();
+    ClickPage("cmdIE");
+    Click("frmIE", "cmdDomain");
+    Watch();
+    program.machine.clock.SetTickStep(60);
+    Click("frmIE", "cmdDomainRefresh");
+    EndWatch();
+    EXPECT_EQ(seen, std::vector<std::string>{"Domains: two.example"});
+}
+
+TEST_F(BusyTest, CountsTheTimeOfAllListsOfAPageTogether) {
+    AddDomain("one.example");
+    program.machine.SetValue(Hive::CurrentUser,
+                             "Software\\Microsoft\\Internet Explorer\\MenuExt\\Look it up", "",
+                             "C:\\look.htm");
+    program.Start();
+    Watch();
+    program.machine.clock.SetTickStep(60);
+    ClickPage("cmdIE");
+    EndWatch();
+    EXPECT_EQ(seen, std::vector<std::string>{"Domains: one.example"});
+}
+
+TEST_F(BusyTest, CountsTheTimeOfAllPlacesOfStartupItemsTogether) {
+    AddRunValue("Tray");
+    program.machine.SetValue(Hive::LocalMachine, RunValues, "Service", "C:\\gone.exe");
+    program.Start();
+    Watch();
+    program.machine.clock.SetTickStep(60);
+    ClickPage("cmdStartup");
+    EndWatch();
+    EXPECT_EQ(seen, std::vector<std::string>{"Startup items: Tray"});
+}
+
+TEST_F(BusyTest, IsNotAskedToShowAnythingOnceItIsGone) {
+    program.Start();
+    program.application.forms.UnloadAll("frmMain");
+    program.machine.clock.SetTickStep(100);
+    Progress::Work work(program.application.progress, "Items");
+    work.Step("item");
+    program.application.unread.Note("place", "", false);
+    EXPECT_TRUE(program.application.progress.Busy());
+}
+
+TEST_F(BusyTest, ShowsNothingButTheCountsAtTheEndWhereNoTimeGoesBy) {
+    for (int i = 1; i < 9; ++i) AddProcess(i, "C:\\" + std::to_string(i) + ".exe", "a");
     program.Start();
     Watch();
     program.machine.clock.SetTickStep(0);
     Click("frmProcess", "cmdRefresh");
     EndWatch();
     EXPECT_TRUE(seen.empty());
+    EXPECT_LE(changes, 4);  // not one for each row
 }
 
 TEST(CountsText, LeavesOutWhatThereIsNoneOf) {

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "NamedWindow.h"
 #include "forms/FormSet.h"
 #include "forms/ListView.h"
 #include "forms/win32/Win32Desktop.h"
@@ -84,11 +85,7 @@ class NativeFormsTest : public testing::Test {
 
     // The window that carries a product name, inside the main form; null when there is none.
     HWND Window(const std::string& name) const {
-        Search search{name, nullptr};
-        const auto top = reinterpret_cast<HWND>(desktop.HandleOf(*main));
-        const auto parameter = reinterpret_cast<LPARAM>(&search);
-        if (LookAt(top, parameter) != FALSE) EnumChildWindows(top, LookAt, parameter);
-        return search.found;
+        return NamedWindow(reinterpret_cast<HWND>(desktop.HandleOf(*main)), name);
     }
 
     static std::string TextOf(HWND window) {
@@ -126,22 +123,6 @@ class NativeFormsTest : public testing::Test {
         return highest;
     }
 
-  private:
-    struct Search {
-        const std::string& name;
-        HWND found;
-    };
-    // FALSE when the window is the one.
-    static BOOL CALLBACK LookAt(HWND window, LPARAM parameter) {
-        auto& search = *reinterpret_cast<Search*>(parameter);
-        char name[256] = "";
-        const HANDLE value = GetPropA(window, "Velkarix.Name");
-        GlobalGetAtomNameA(static_cast<ATOM>(reinterpret_cast<UINT_PTR>(value)), name, 256);
-        if (search.name == name) search.found = window;
-        return search.found == nullptr ? TRUE : FALSE;
-    }
-
-  protected:
     Calls calls;
     Handler whenLeft;  // what the page's button "Leave" does
     mutable Win32Desktop desktop;

@@ -1,0 +1,56 @@
+// The main window on the smallest screen, with its strips of finding and of status.
+#include "NamedWindow.h"
+#include "PageOnScreen.h"
+#include "browser/frmIE.h"
+
+namespace velkarix {
+namespace {
+
+class MainWindowOnTheSmallestScreen : public testing::Test {
+  protected:
+    RECT AreaOf(const char* control) {
+        RECT area{};
+        GetWindowRect(NamedWindow(screen.MainWindow(), control), &area);
+        return area;
+    }
+    // What stands one above the other, in this order, inside the window.
+    void ExpectStacked(std::initializer_list<const char*> controls) {
+        RECT client{};
+        GetClientRect(screen.MainWindow(), &client);
+        MapWindowPoints(screen.MainWindow(), nullptr, reinterpret_cast<POINT*>(&client), 2);
+        LONG top = client.top;
+        for (const char* control : controls) {
+            const RECT area = AreaOf(control);
+            EXPECT_GE(area.top, top) << control;
+            EXPECT_LT(area.top, area.bottom) << control;
+            EXPECT_GE(area.left, client.left) << control;
+            EXPECT_LE(area.right, client.right) << control;
+            top = area.bottom;
+        }
+        EXPECT_LE(top, client.bottom);
+    }
+
+    PageOnScreen<frmIE> screen{640, 452};
+};
+
+TEST_F(MainWindowOnTheSmallestScreen, HoldsThePageAndTheStatusBelowIt) {
+    ExpectStacked({"picTop", "picPage", "lblStatus"});
+    ExpectStacked({"picTop", "picPage", "lblUnread"});
+    EXPECT_EQ(CutTexts(screen.Window()), "");
+}
+
+TEST_F(MainWindowOnTheSmallestScreen, HoldsTheStripOfFindingTooAndAllThatStandsBelow) {
+    screen.main.Find("picFind")->SetVisible(true);
+    screen.Settle();
+    for (const char* control :
+         {"lblFind", "txtFind", "cmdFindNext", "cmdFindPrevious", "cmdFindClose"}) {
+        ExpectStacked({"picTop", control, "picPage", "lblStatus"});
+    }
+    EXPECT_EQ(CutTexts(screen.Window()), "");
+    EXPECT_LT(AreaOf("txtFind").right, AreaOf("cmdFindNext").left);
+    EXPECT_LT(AreaOf("cmdFindNext").right, AreaOf("cmdFindPrevious").left);
+    EXPECT_LT(AreaOf("cmdFindPrevious").right, AreaOf("cmdFindClose").left);
+}
+
+}  // namespace
+}  // namespace velkarix
