@@ -151,10 +151,18 @@ void MeasureProgress(const DomainMap& map) {
         if (page.RowCount() != static_cast<std::size_t>(Many)) failed = true;
     };
     const std::string of = " of " + std::to_string(Many) + " on the screen";
-    const std::vector<double> seconds = MedianSeconds(
-        {{"LoadDomains" + of + " without progress", load, [&page] { page.ShowProgress(false); }},
-         {"LoadDomains" + of + " with progress", load, [&page] { page.ShowProgress(true); }}});
-    PrintRatio("LoadDomains with progress / without", seconds[1] / seconds[0], ProgressLimit);
+    // Less than the machine's own moods: the least of several medians is taken.
+    std::vector<Work> works;
+    for (int i = 0; i < 3; ++i) {
+        works.push_back({"LoadDomains" + of + " without progress", load,
+                         [&page] { page.ShowProgress(false); }});
+        works.push_back(
+            {"LoadDomains" + of + " with progress", load, [&page] { page.ShowProgress(true); }});
+    }
+    const std::vector<double> seconds = MedianSeconds(works);
+    const double without = std::min({seconds[0], seconds[2], seconds[4]});
+    const double with = std::min({seconds[1], seconds[3], seconds[5]});
+    PrintRatio("LoadDomains with progress / without", with / without, ProgressLimit);
 }
 
 }  // namespace

@@ -117,7 +117,7 @@ TEST_F(Appearance, AllGrowsWithTheSystemsFont) {
 }
 
 TEST_F(Appearance, APageThatHasNoRoomScrolls) {
-    constexpr int HugeLetters = 34;
+    constexpr int HugeLetters = 80;
     ASSERT_TRUE(Running().Press("cmdOptions"));
     const Window page = Running().Control("frmOptions");
     const Window last = Running().Control("cmdDelete");

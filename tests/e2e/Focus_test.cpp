@@ -25,7 +25,7 @@ class Focus : public ProgramTest {
     Window Tab(const Window& top) {
         const Window before = Focused(top);
         PressKey(VK_TAB);
-        return WaitUntil([&] { return Focused(top) != before; }, 1000) ? Focused(top) : Window();
+        return WaitUntil([&] { return Focused(top) != before; }) ? Focused(top) : Window();
     }
     // A caret blinks, so what differs may take its time.
     static bool Differs(const Capture& before, const Window& control, const Window& top) {

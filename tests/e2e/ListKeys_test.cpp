@@ -142,7 +142,7 @@ TEST_F(ListKeys, CtrlFFindsRowsByAnyColumnAndEscGoesBackToTheList) {
     PressKey(VK_ESCAPE);
     EXPECT_TRUE(HasFocus("lstvProcess"));
     EXPECT_TRUE(WaitUntil([&] { return ListArea().top == before.top; }));
-    EXPECT_FALSE(Running().Control("txtFind").Visible());
+    EXPECT_TRUE(WaitUntil([this] { return !Running().Control("txtFind").Visible(); }));
 }
 
 TEST_F(ListKeys, F3GoesToTheNextRowAndShiftF3ToTheOneBefore) {

@@ -1,6 +1,7 @@
 #include "forms/win32/FormArrangement.h"
 
 #include <algorithm>
+#include <climits>
 
 #include "forms/Controls.h"
 #include "forms/win32/AreaWindows.h"
@@ -37,29 +38,42 @@ void MarkGrounds(const Layout& layout, Shade ground, std::map<const Control*, Sh
     for (const Layout& child : layout.children) MarkGrounds(child, ground, grounds);
 }
 
-// What scrolls its own text is of use in less room than it would like to have.
-class LeastMetrics : public LayoutMetrics {
+// Asks once for each control: a layout wants to know its sizes at each of its levels, and to
+// measure a text is slow.
+class RememberedMetrics : public LayoutMetrics {
   public:
-    explicit LeastMetrics(Metrics& metrics) : metrics_(metrics) {}
+    explicit RememberedMetrics(Metrics& metrics, int widestTextBox = INT_MAX)
+        : metrics_(metrics), widestTextBox_(widestTextBox) {}
     Size PreferredSize(Control& control) override {
-        Size size = metrics_.PreferredSize(control);
-        if (dynamic_cast<const TextBox*>(&control) != nullptr) {
-            size.width = std::min(size.width, metrics_.InLetters(UsableTextBox));
-        }
+        const auto [place, isNew] = sizes_.try_emplace(&control);
+        Size& size = place->second;
+        if (!isNew) return size;
+        size = metrics_.PreferredSize(control);
+        const bool isTextBox = dynamic_cast<const TextBox*>(&control) != nullptr;
+        if (isTextBox) size.width = std::min(size.width, widestTextBox_);
         return size;
     }
-    Insets GroupInsets(Control& group) override { return metrics_.GroupInsets(group); }
+    Insets GroupInsets(Control& group) override {
+        const auto [place, isNew] = insets_.try_emplace(&group);
+        if (isNew) place->second = metrics_.GroupInsets(group);
+        return place->second;
+    }
     int Gap() override { return metrics_.Gap(); }
 
   private:
-    static constexpr int UsableTextBox = 120;
     Metrics& metrics_;
+    int widestTextBox_;
+    std::map<const Control*, Size> sizes_;
+    std::map<const Control*, Insets> insets_;
 };
+
+// What scrolls its own text is of use in less room than it would like to have.
+constexpr int UsableTextBox = 120;
 
 }  // namespace
 
 Size LeastInside(const Form& form, Metrics& metrics) {
-    LeastMetrics least(metrics);
+    RememberedMetrics least(metrics, metrics.InLetters(UsableTextBox));
     const Size layout = MinimumSize(OnView(form.FormLayout()), least);
     const Insets margins = metrics.FormMargins(form.Kind());
     return {layout.width + margins.left + margins.right,
@@ -71,7 +85,8 @@ std::vector<Placement> ArrangeForm(const Form& form, const Rect& inside, Metrics
     const Rect area{inside.x + margins.left, inside.y + margins.top,
                     inside.width - margins.left - margins.right,
                     inside.height - margins.top - margins.bottom};
-    std::vector<Placement> placements = Arrange(form.FormLayout(), area, metrics);
+    RememberedMetrics remembered(metrics);
+    std::vector<Placement> placements = Arrange(form.FormLayout(), area, remembered);
     JoinStripsToBanner(placements, metrics.Gap());
     return placements;
 }
