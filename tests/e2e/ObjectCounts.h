@@ -18,9 +18,9 @@ struct ObjectCounts {
 // A count that can't be had is 0.
 ObjectCounts CountObjects(const Program& program);
 
-// The least of many counts: what is held only while something is drawn isn't a loss, and a loss is
-// in all of them. A failure of the test where a count can't be had.
-ObjectCounts LeastObjects(const Program& program);
+// The most frequent of many counts, once everything is drawn: what is held only while something is
+// done isn't a loss. A failure of the test where a count can't be had.
+ObjectCounts RestingObjects(const Program& program);
 
 // A failure of the test where the program holds more than `before`.
 void ExpectNoMoreObjects(const Program& program, const ObjectCounts& before);

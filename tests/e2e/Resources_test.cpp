@@ -12,7 +12,7 @@ namespace {
 
 class Resources : public ProgramTest {
   protected:
-    ObjectCounts Count() { return LeastObjects(Running()); }
+    ObjectCounts Count() { return RestingObjects(Running()); }
     void ExpectNoMoreThan(const ObjectCounts& before) { ExpectNoMoreObjects(Running(), before); }
     // Goes round the pages; ends on the first one.
     void Switch(int times) {

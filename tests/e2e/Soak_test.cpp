@@ -46,7 +46,7 @@ class Soak : public StartupTest {
         const int rounds = Share(fullRounds);
         constexpr int FirstTimes = 17;  // what is made once and kept is there by then
         for (int i = 0; i < FirstTimes; ++i) round();
-        ObjectCounts objects = LeastObjects(Running());
+        ObjectCounts objects = RestingObjects(Running());
         const MemoryUse before = MeasureMemory(Running());
         ASSERT_GT(before.blocks, 0u);
         for (int i = 0; i < rounds && !HasFailure(); ++i) round();
@@ -78,7 +78,7 @@ class Soak : public StartupTest {
     }
     void Print(const char* what, int rounds, const ObjectCounts& objects, const MemoryUse& before,
                const MemoryUse& after) {
-        const ObjectCounts now = LeastObjects(Running());
+        const ObjectCounts now = RestingObjects(Running());
         std::printf(
             "%d %s: kernel %lu to %lu, USER %lu to %lu, GDI %lu to %lu, blocks %zu to %zu, "
             "bytes %zu to %zu, of all heaps %zu to %zu, private %zu to %zu\n",
