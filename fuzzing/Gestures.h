@@ -6,7 +6,9 @@
 
 namespace velkarix {
 
-// One gesture on one of the form's controls. What it does may destroy the form.
+// One gesture on one of the form's controls, if that is enabled: a byte says which control, another
+// which of its gestures, the third which of the gesture's ways. A list has one more, its first: all
+// rows are ticked. What is done may destroy the form.
 void MakeGesture(FuzzInput& input, Form& form);
 
 }  // namespace velkarix

@@ -21,9 +21,9 @@ class PageSeed {
         bytes.Byte(page).Byte(system).Byte(system % 2);
     }
 
-    PageSeed& Click(const char* control) { return Touch(control); }
-    PageSeed& TickAll(const char* list) { return Touch(list).Byte(2).Byte(0); }
-    PageSeed& SelectFirst(const char* list) { return Touch(list).Byte(5).Byte(0); }
+    PageSeed& Click(const char* control) { return Touch(control, 0); }
+    PageSeed& TickAll(const char* list) { return Touch(list, 0); }
+    PageSeed& SelectFirst(const char* list) { return Touch(list, 1); }
 
     FuzzSeed bytes;
 
@@ -32,15 +32,13 @@ class PageSeed {
         program_.application.forms.Show(page);
         return *program_.application.forms.Loaded(page);
     }
-    PageSeed& Touch(const char* control) {
+    // In the first of the gesture's ways.
+    PageSeed& Touch(const char* control, std::size_t gesture) {
         const auto& controls = form_.Controls();
         const auto found = std::find(controls.begin(), controls.end(), form_.Find(control));
         Expect(found != controls.end(), "a page has the controls of its seeds", control);
         bytes.Byte(static_cast<std::size_t>(PagePart::Count)).Byte(1);
-        return Byte(static_cast<std::size_t>(found - controls.begin()));
-    }
-    PageSeed& Byte(std::size_t byte) {
-        bytes.Byte(byte);
+        bytes.Byte(static_cast<std::size_t>(found - controls.begin())).Byte(gesture).Byte(0);
         return *this;
     }
 

@@ -4,6 +4,7 @@
 #include <tuple>
 
 #include "tests/browser/ItemLists.h"
+#include "tests/machine/ControlGestures.h"
 
 namespace velkarix {
 namespace {
@@ -39,7 +40,7 @@ const Interruption Interruptions[] = {
     {"TickAllAndSort",
      [](TestProgram& it, const ListCase& list) {
          ListView& rows = it.Get<ListView>("frmIE", list.list);
-         for (std::size_t i = 0; i < rows.RowCount(); ++i) rows.UserCheck(rows.Row(i), true);
+         TickAllRows(rows);
          rows.UserColumnClick(1);
      }},
     {"Leave", [](TestProgram& it, const ListCase&) { PressMain(it, "cmdOptions"); }, true},

@@ -6,10 +6,7 @@
 #include <map>
 #include <string_view>
 
-#include "forms/ComboBox.h"
-#include "forms/ControlVisitor.h"
-#include "forms/TabStrip.h"
-#include "forms/TreeView.h"
+#include "tests/machine/ControlGestures.h"
 
 namespace velkarix {
 namespace {
@@ -18,91 +15,9 @@ constexpr const char* MainForm = "frmMain";
 constexpr const char* LoadEvent = "Form_Load";
 constexpr const char* UnloadEvent = "Form_Unload";
 
-// A new kind of control doesn't compile here before it is said what a user can do with it.
-class EventNames : public ControlVisitor {
-  public:
-    std::vector<std::string> names;
-
-    void Visit(Button&) override { names = {"Click"}; }
-    void Visit(CheckBox&) override { names = {"Click"}; }
-    void Visit(ColorBox&) override { names = {"DblClick"}; }
-    void Visit(ComboBox&) override { names = {"Click"}; }
-    void Visit(Frame&) override {}
-    void Visit(Label&) override {}
-    void Visit(LinkLabel&) override { names = {"Click"}; }
-    void Visit(ListView&) override {
-        names = {"ItemClick", "ItemCheck", "ColumnClick", "DblClick", "MouseUp"};
-    }
-    void Visit(OptionButton&) override { names = {"Click"}; }
-    void Visit(PageHost&) override {}
-    void Visit(Panel&) override {}
-    void Visit(PictureBox&) override {}
-    void Visit(ProgressBar&) override {}
-    void Visit(TabStrip&) override { names = {"Click"}; }
-    void Visit(TextBox&) override { names = {"Change"}; }
-    void Visit(TreeView&) override { names = {"NodeClick"}; }
-};
-
-class Gesture : public ControlVisitor {
-  public:
-    explicit Gesture(std::string event) : event_(std::move(event)) {}
-
-    void Visit(Button& control) override { Raise(control); }
-    void Visit(CheckBox& control) override {
-        // One without a handler tells nobody that it was clicked.
-        const bool before = control.Checked();
-        control.Raise(event_);
-        EXPECT_NE(control.Checked(), before) << control.Name();
-    }
-    void Visit(ColorBox& control) override { Raise(control); }
-    void Visit(ComboBox& control) override {
-        const int count = static_cast<int>(control.Entries().size());
-        for (int i = 0; i < count; ++i) control.UserSelect(i);
-    }
-    void Visit(Frame&) override {}
-    void Visit(Label&) override {}
-    void Visit(LinkLabel& control) override { Raise(control); }
-    void Visit(ListView& control) override {
-        if (event_ == "DblClick") {
-            control.Raise(event_);
-        } else if (event_ == "ColumnClick") {
-            const int count = static_cast<int>(control.Columns().size());
-            for (int column = 1; column <= count; ++column) control.UserColumnClick(column);
-        } else if (event_ == "MouseUp") {
-            for (const MouseButton each : {MouseButton::Left, MouseButton::Right}) {
-                control.UserMouseUp(each);
-            }
-        } else {
-            ForEachRow(control);
-        }
-    }
-    void Visit(OptionButton& control) override { Raise(control); }
-    void Visit(PageHost&) override {}
-    void Visit(Panel&) override {}
-    void Visit(PictureBox&) override {}
-    void Visit(ProgressBar&) override {}
-    void Visit(TabStrip& control) override {
-        const int count = static_cast<int>(control.Captions().size());
-        for (int tab = count; tab > 0; --tab) control.UserSelect(tab);
-    }
-    void Visit(TextBox& control) override { control.TakeInput(control.Value() + "x"); }
-    void Visit(TreeView& control) override {
-        for (const auto& node : control.Nodes()) control.UserSelect(*node);
-    }
-
-  private:
-    void Raise(Control& control) {
-        EXPECT_TRUE(control.Raise(event_)) << control.Name() << " takes no " << event_;
-    }
-    void ForEachRow(ListView& list) {
-        for (std::size_t i = 0; i < list.RowCount(); ++i) {
-            if (event_ == "ItemClick") list.UserSelect(&list.Row(i));
-            if (event_ == "ItemCheck") list.UserCheck(list.Row(i), !list.Row(i).Checked());
-        }
-    }
-
-    std::string event_;
-};
+std::vector<ControlGesture> GesturesWith(Control& control) {
+    return GesturesOf(control, [](const std::string& value) { return value + "x"; });
+}
 
 // The button of the main window that shows each page, found out by pressing them.
 const std::map<std::string, std::string>& PageButtons() {
@@ -164,19 +79,14 @@ const Menu* MenuOf(RunningProgram& program, ListView& list) {
 
 }  // namespace
 
-std::vector<std::string> EventsOf(Control& control) {
-    EventNames names;
-    control.Accept(names);
-    return names.names;
-}
-
 std::vector<std::string> AllCommands(MemoryMachine& machine) {
     std::vector<std::string> commands;
     ForEachForm(machine, [&commands](RunningProgram&, Form& form) {
         const std::string prefix = form.Name() + ".";
         for (Control* control : form.Controls()) {
-            for (const std::string& event : EventsOf(*control)) {
-                commands.push_back(prefix + control->Name() + "_" + event);
+            for (const ControlGesture& gesture : GesturesWith(*control)) {
+                commands.push_back(prefix + control->Name() + "_" + gesture.event);
+                EXPECT_FALSE(gesture.ways.empty()) << "no way to give " << commands.back();
             }
         }
         for (const Timer* timer : form.Timers()) {
@@ -251,8 +161,11 @@ void GiveCommand(RunningProgram& program, const std::string& command) {
     }
     Control* const found = form->Find(control);
     ASSERT_NE(found, nullptr) << command;
-    Gesture gesture(handler.substr(mark + 1));
-    found->Accept(gesture);
+    ASSERT_TRUE(found->Enabled()) << command;
+    for (const ControlGesture& gesture : GesturesWith(*found)) {
+        if (gesture.event != handler.substr(mark + 1)) continue;
+        for (const auto& way : gesture.ways) EXPECT_TRUE(way(*found)) << command;
+    }
 }
 
 }  // namespace velkarix

@@ -11,10 +11,6 @@
 
 namespace velkarix {
 
-// The events of a user on controls of that kind, by the names that handlers have; none where there
-// is nothing to be done with such a control.
-std::vector<std::string> EventsOf(Control& control);
-
 // On a machine where each list has rows. Those of controls first, form by form, without doubles.
 std::vector<std::string> AllCommands(MemoryMachine& machine);
 

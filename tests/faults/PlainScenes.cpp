@@ -7,6 +7,7 @@
 
 #include "tests/faults/CommandList.h"
 #include "tests/faults/FlatMachine.h"
+#include "tests/machine/ControlGestures.h"
 
 namespace velkarix {
 namespace {
@@ -105,7 +106,7 @@ void SelectForCommand(RunningProgram& program, const std::string& command) {
     for (Control* each : form->Controls()) {
         auto* const list = dynamic_cast<ListView*>(each);
         if (list == nullptr) continue;
-        for (std::size_t i = 0; i < list->RowCount(); ++i) list->UserCheck(list->Row(i), true);
+        TickAllRows(*list);
         for (std::size_t i = 0; i < list->RowCount(); ++i) {
             list->UserSelect(&list->Row(i));
             if (control == nullptr || control->Enabled()) break;

@@ -1,5 +1,6 @@
 // The full report and commands that change the machine, each in the middle of the other.
 #include "tests/browser/BrowserPage.h"
+#include "tests/machine/ControlGestures.h"
 #include "tests/options/FullReportPage.h"
 
 namespace velkarix {
@@ -13,8 +14,7 @@ class FullReportMeetsAChange : public FullReportPage, public testing::WithParamI
     }
     void DisableBHO() {
         PressMain("cmdIE");
-        auto& list = program.Get<ListView>("frmIE", "lstvBHO");
-        for (std::size_t i = 0; i < list.RowCount(); ++i) list.UserCheck(list.Row(i), true);
+        TickAllRows(program.Get<ListView>("frmIE", "lstvBHO"));
         program.Get<Button>("frmIE", "cmdDisableBHO").Raise("Click");
     }
     void DeleteApplication() {

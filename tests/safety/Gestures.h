@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "forms/ControlVisitor.h"
 #include "tests/machine/TestProgram.h"
 
 namespace velkarix {

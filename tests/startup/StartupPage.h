@@ -10,6 +10,7 @@
 
 #include "startup/StartupColumns.h"
 #include "startup/frmStartup.h"
+#include "tests/machine/ControlGestures.h"
 #include "tests/machine/TestProgram.h"
 
 namespace velkarix {
@@ -142,9 +143,7 @@ class StartupPage : public testing::Test {
         return nullptr;
     }
     void Tick(const std::string& name) { List().UserCheck(*RowNamed(name), true); }
-    void TickAll() {
-        for (std::size_t i = 0; i < List().RowCount(); ++i) List().UserCheck(List().Row(i), true);
-    }
+    void TickAll() { TickAllRows(List()); }
     void Select(const std::string& name) { List().UserSelect(RowNamed(name)); }
     // The texts of the message boxes so far.
     RowTexts Messages() {
