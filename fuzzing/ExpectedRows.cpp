@@ -35,11 +35,6 @@ bool HasNul(const std::string& name) {
     return name.find('\0') != std::string::npos;
 }
 
-// What a name with a NUL in it is shown as, if it is.
-std::string UpToNul(const std::string& name) {
-    return name.substr(0, name.find('\0'));
-}
-
 bool HasText(const MemoryHives& hives, Hive hive, const std::string& key, const char* name) {
     return !hives.TextAt(hive, key, name).value_or("").empty();
 }
@@ -65,14 +60,18 @@ bool HasZone(const MemoryHives& hives, Hive hive, const std::string& key) {
     return false;
 }
 
-bool IsShown(const MemoryHives& hives, const PageList& list, Hive hive, const std::string& key) {
+// No call reaches what a name with a NUL in it stands for: its row is all that there is of it.
+bool IsShown(const MemoryHives& hives, const PageList& list, Hive hive, const std::string& holder,
+             const std::string& name) {
+    if (list.shows == Shows::Each) return true;
+    if (HasNul(name)) return false;
+    const std::string key = holder + "\\" + name;
     switch (list.shows) {
-        case Shows::Each:
-            return true;
         case Shows::WithClass:
             return HasText(hives, hive, key, "CLSID");
         case Shows::WithZone:
             return HasZone(hives, hive, key);
+        case Shows::Each:
         case Shows::WithFile:
             break;
     }
@@ -119,14 +118,13 @@ ExpectedRows ExpectItems(const Application& application, const MemoryHives& hive
             const auto names = isKey ? hives.SubKeysOf(place.hive, holder)
                                      : hives.ValueNamesOf(place.hive, holder);
             for (const std::string& name : Listed(names, isKey ? KeyCapacity : ValueCapacity)) {
-                if (isKey ? UpToNul(name).empty() : !name.starts_with('{')) continue;
-                const bool mustShow =
-                    !HasNul(name) && IsShown(hives, list, place.hive, holder + "\\" + name);
-                const bool mayShow = HasNul(name) || list.shows == Shows::WithFile;
-                const std::string row =
-                    RowText(isKey ? UpToNul(name) : name, StateText(enabled), place.scope);
-                if (mustShow) rows.shown.insert(row);
-                if (mayShow) rows.possible.insert(row);
+                if (isKey ? name.empty() || name.front() == '\0' : !name.starts_with('{')) continue;
+                const std::string row = RowText(name, StateText(enabled), place.scope);
+                if (IsShown(hives, list, place.hive, holder, name)) {
+                    rows.shown.insert(row);
+                } else if (list.shows == Shows::WithFile) {
+                    rows.possible.insert(row);
+                }
             }
         }
     }
@@ -146,8 +144,7 @@ ExpectedRows ExpectRuns(const Application& application, const MemoryHives& hives
             const std::string key = RunKeyPath(application, run, enabled);
             const auto names = hives.ValueNamesOf(run.hive, key);
             for (const std::string& name : Listed(names, ValueCapacity)) {
-                (HasNul(name) ? rows.possible : rows.shown)
-                    .insert(RowText(name, StateText(enabled), run.location));
+                rows.shown.insert(RowText(name, StateText(enabled), run.location));
             }
         }
     }
@@ -167,14 +164,13 @@ ExpectedRows ExpectInstalled(const MemoryHives& hives) {
     ExpectedRows rows;
     const auto names = hives.SubKeysOf(Machines, Uninstall);
     for (const std::string& name : Listed(names, KeyCapacity)) {
-        const std::string key = Uninstall + UpToNul(name);
+        if (name.empty() || HasNul(name)) continue;
+        const std::string key = Uninstall + name;
         const bool isApplication = NumberAt(hives, Machines, key, "NoRemove") != 1 &&
                                    HasText(hives, Machines, key, "UninstallString") &&
                                    HasText(hives, Machines, key, "DisplayName");
-        if (UpToNul(name).empty() || !isApplication) continue;
-        (HasNul(name) ? rows.possible : rows.shown)
-            .insert(
-                RowText(UpToNul(name), hives.TextAt(Machines, key, "DisplayName").value_or("")));
+        if (!isApplication) continue;
+        rows.shown.insert(RowText(name, hives.TextAt(Machines, key, "DisplayName").value_or("")));
     }
     return rows;
 }
