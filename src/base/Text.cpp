@@ -24,6 +24,10 @@ std::string ToLower(std::string_view text) {
     return lower;
 }
 
+bool IsCharacter(std::string_view text, std::size_t at) {
+    return at == 0 || static_cast<unsigned char>(text[at - 1]) < 0x80;
+}
+
 int CompareIgnoringCase(std::string_view left, std::string_view right) {
     const std::size_t common = std::min(left.size(), right.size());
     for (std::size_t i = 0; i < common; ++i) {

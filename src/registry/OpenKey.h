@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 #include "platform/Registry.h"
 #include "registry/RawValue.h"
@@ -13,6 +14,11 @@ namespace velkarix {
 
 // One call of the system takes no longer path, in bytes.
 inline constexpr std::size_t LongestPath = 259;
+
+// The backslash that parts a path which is too long for one call: the last within reach of a call
+// that isn't the path's end, and no part of a double-byte character. npos for any other path, and
+// where there is no such backslash.
+std::size_t CutOf(std::string_view path);
 
 class OpenKey {
   public:
@@ -42,9 +48,8 @@ class OpenKey {
     template <typename Call>
     ErrorCode Go(KeyHandle parent, const std::string& subKey, bool make, const Call& call) {
         if (!IsReachable(subKey)) return error::InvalidData;
-        const bool isLong = subKey.size() > LongestPath;
-        const std::size_t cut = isLong ? subKey.rfind('\\', LongestPath) : std::string::npos;
-        if (cut == std::string::npos || cut == 0) return call(parent, subKey);
+        const std::size_t cut = CutOf(subKey);
+        if (cut == std::string::npos) return call(parent, subKey);
         OpenKey above(registry_);
         const std::string beginning = subKey.substr(0, cut);
         const ErrorCode opened =

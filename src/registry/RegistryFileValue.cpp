@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "base/Text.h"
+
 namespace velkarix {
 namespace {
 
@@ -78,7 +80,7 @@ bool IsWritableName(std::string_view name) {
 
 bool IsWritableValueName(std::string_view name) {
     for (std::size_t i = 1; i < name.size(); ++i) {
-        if (name[i] == '\\' && static_cast<unsigned char>(name[i - 1]) >= 0x80) return false;
+        if (name[i] == '\\' && !IsCharacter(name, i)) return false;
     }
     return IsWritableName(name);
 }

@@ -27,6 +27,16 @@ TEST(ToLower, LeavesBytesAbove127AsTheyAre) {
     EXPECT_EQ(ToLower("\xC4\xD6 A"), "\xC4\xD6 a");
 }
 
+TEST(IsCharacter, IsFalseBehindAByteOfTheUpperHalf) {
+    const std::string text = "\\a\\\x81\\\\";
+    EXPECT_TRUE(IsCharacter(text, 0));
+    EXPECT_TRUE(IsCharacter(text, 2));
+    EXPECT_FALSE(IsCharacter(text, 4));
+    EXPECT_TRUE(IsCharacter(text, 5));
+    EXPECT_TRUE(IsCharacter("\x7F\\", 1));
+    EXPECT_FALSE(IsCharacter("\x80\\", 1));
+}
+
 TEST(CompareIgnoringCase, TakesUpperAndLowerCaseForTheSame) {
     EXPECT_EQ(CompareIgnoringCase("Explorer.EXE", "explorer.exe"), 0);
     EXPECT_TRUE(EqualIgnoringCase("", ""));
