@@ -4,8 +4,6 @@
 #include <set>
 #include <utility>
 
-#include "base/Text.h"
-
 namespace velkarix {
 namespace {
 
@@ -31,7 +29,7 @@ ErrorCode ListAll(std::vector<Item>& items, Read read) {
         if (result == error::NoMoreItems) return error::Success;
         if (result != error::Success) return result;
         const std::string& name = NameOf(item);
-        if (!IsReachable(name) || !names.insert(ToLower(name)).second) return error::InvalidData;
+        if (!IsReachable(name) || !names.insert(FoldedName(name)).second) return error::InvalidData;
         items.push_back(std::move(item));
     }
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "base/Text.h"
+
 namespace velkarix {
 namespace {
 
@@ -47,6 +49,14 @@ bool MakeRoom(Bytes& buffer, std::uint32_t size) {
 
 bool IsReachable(std::string_view name) {
     return name.find('\0') == std::string_view::npos;
+}
+
+std::string FoldedName(const std::string& name) {
+    std::string folded = ToLower(name);
+    for (std::size_t i = 0; i < name.size(); ++i) {
+        if (!IsCharacter(name, i)) folded[i] = name[i];
+    }
+    return folded;
 }
 
 ErrorCode EnumRawValue(Registry& registry, KeyHandle key, std::uint32_t index,

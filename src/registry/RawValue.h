@@ -20,6 +20,10 @@ struct RawValue {
 // the system would take what is named by the part before the NUL.
 bool IsReachable(std::string_view name);
 
+// Equal for names by which the system finds the same. A to Z are folded but where a letter may be
+// the second byte of a double-byte character, which has no case.
+std::string FoldedName(const std::string& name);
+
 // Reads the value at `index` with a buffer that grows to the value's size. `nameCapacity` is in
 // bytes with the NUL. Gives the system's code; a value that keeps growing faster than it can be
 // read stays MoreData, as does one whose name is too long.

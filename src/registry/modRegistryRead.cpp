@@ -72,7 +72,7 @@ void modRegistry::EnumSubKeys(Hive hive, const std::string& key, std::vector<std
         std::string name;
         result = registry_.RegEnumKeyExA(open.Handle(), index, NameCapacity, name);
         if (result != error::Success) break;
-        if (namesSoFar.insert(ToLower(name)).second) names.push_back(name);
+        if (namesSoFar.insert(FoldedName(name)).second) names.push_back(name);
     }
     NoteRead(hive, key, "keys", result);
 }
@@ -92,7 +92,7 @@ std::vector<RegValueEntry> modRegistry::EnumValues(Hive hive, const std::string&
     for (std::uint32_t index = 0; result == error::Success; ++index) {
         result = EnumRawValue(registry_, handle, index, NameCapacity, value);
         if (result != error::Success) break;
-        if (namesSoFar.insert(ToLower(value.name)).second) entries.push_back(ToEntry(value));
+        if (namesSoFar.insert(FoldedName(value.name)).second) entries.push_back(ToEntry(value));
     }
     NoteRead(hive, key, "values", result);
     return entries;

@@ -89,5 +89,13 @@ TEST_F(KeyListingTest, IsNoSuccessWhenAListingBreaksOff) {
     EXPECT_EQ(SubKeys(), error::MoreData);
 }
 
+TEST_F(KeyListingTest, TellsNamesOfDoubleByteCharactersApart) {
+    ListedNames listed(machine.Journal(), DoubleByteNames);
+    EXPECT_EQ(ListSubKeys(listed, Registry::HandleOf(User), names), error::Success);
+    EXPECT_EQ(names, DoubleByteNames);
+    ListedNames alike(machine.Journal(), {"Name", "name"});
+    EXPECT_EQ(ListSubKeys(alike, Registry::HandleOf(User), names), error::InvalidData);
+}
+
 }  // namespace
 }  // namespace velkarix

@@ -100,5 +100,21 @@ TEST_F(RawValueTest, TakesMemoryForSizesThatValuesCanHaveAlone) {
     EXPECT_EQ(buffer.size(), 1'000'000u);
 }
 
+TEST(FoldedName, FoldsLettersThatAreNoSecondBytes) {
+    EXPECT_EQ(FoldedName("AbC 1"), "abc 1");
+    EXPECT_EQ(FoldedName("\x83"
+                         "A"),
+              "\x83"
+              "A");
+    EXPECT_NE(FoldedName("\x83"
+                         "A"),
+              FoldedName("\x83"
+                         "a"));
+    EXPECT_EQ(FoldedName("\x83"
+                         "AB"),
+              "\x83"
+              "Ab");
+}
+
 }  // namespace
 }  // namespace velkarix

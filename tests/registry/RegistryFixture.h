@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "registry/modRegistry.h"
@@ -38,6 +40,37 @@ class RegistryFixture : public testing::Test {
     RecordingDesktop desktop;
     modRegistry registry{machine.Parts(), desktop, "Velkarix"};
 };
+
+// Lists the same names for every key, as subkeys and as values with a text.
+class ListedNames : public MemoryRegistry {
+  public:
+    ListedNames(CallJournal& journal, std::vector<std::string> names)
+        : MemoryRegistry(journal), names_(std::move(names)) {}
+    ErrorCode RegEnumKeyExA(KeyHandle, std::uint32_t index, std::uint32_t,
+                            std::string& name) override {
+        if (index >= names_.size()) return error::NoMoreItems;
+        name = names_[index];
+        return error::Success;
+    }
+    ErrorCode RegEnumValueA(KeyHandle key, std::uint32_t index, std::uint32_t capacity,
+                            std::string& name, std::uint32_t& type, Bytes& data,
+                            std::uint32_t& size) override {
+        type = registryType::Sz;
+        data.assign({'x', 0});
+        size = 2;
+        return RegEnumKeyExA(key, index, capacity, name);
+    }
+
+  private:
+    std::vector<std::string> names_;
+};
+
+// Two names of a double-byte code page: the second bytes are no letters.
+inline const std::vector<std::string> DoubleByteNames = {
+    "\x83"
+    "A",
+    "\x83"
+    "a"};
 
 using Strings = std::vector<std::string>;
 

@@ -79,6 +79,25 @@ TEST_F(modRegistryReadTest, EnumSubKeysGivesANameOnce) {
     EXPECT_EQ(names, Strings{"??"});
 }
 
+TEST_F(modRegistryReadTest, TellsNamesOfDoubleByteCharactersApart) {
+    const auto listing = [&](const Strings& listed) {
+        ListedNames listedNames(machine.Journal(), listed);
+        const Machine parts = machine.Parts();
+        modRegistry reading({listedNames, parts.profileFiles, parts.versionResources, parts.files,
+                             parts.clock, parts.processes, parts.token, parts.shell,
+                             parts.shortcuts, parts.system, parts.windows, parts.cryptography},
+                            desktop, "Velkarix");
+        Strings names;
+        reading.EnumSubKeys(User, "", names);
+        Strings values;
+        for (const RegValueEntry& each : reading.EnumValues(User, "")) values.push_back(each.name);
+        EXPECT_EQ(values, names);
+        return names;
+    };
+    EXPECT_EQ(listing(DoubleByteNames), DoubleByteNames);
+    EXPECT_EQ(listing({"Name", "name", "Other"}), (Strings{"Name", "Other"}));
+}
+
 TEST_F(modRegistryReadTest, EnumSubKeysEndsAtTheFirstFailure) {
     machine.AddKey(User, key + "\\A");
     machine.FailNext("RegEnumKeyExA");
