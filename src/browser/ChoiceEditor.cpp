@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "registry/KeyTree.h"
-
 namespace velkarix {
 
 namespace {
@@ -16,21 +14,6 @@ std::vector<std::string> WithUnknown(std::vector<std::string> choices) {
 }
 
 }  // namespace
-
-// The write of a value that is refused reports success: what stands decides.
-bool StoreNumber(Application& application, const std::string& key, const std::string& valueName,
-                 std::int32_t number) {
-    constexpr Hive User = Hive::CurrentUser;
-    if (!application.registry.SetDwordValue(User, key, valueName, number)) return false;
-    Bytes wanted;
-    for (int shift = 0; shift < 32; shift += 8) {
-        wanted.push_back(static_cast<std::uint8_t>(static_cast<std::uint32_t>(number) >> shift));
-    }
-    RawValue standing;
-    return ReadRawValue(application.machine.registry, User, key, valueName, standing) ==
-               error::Success &&
-           StandsAs(standing, {valueName, registryType::Dword, wanted});
-}
 
 ChoiceEditor::ChoiceEditor(Application& application, const ChoiceEditorTexts& texts,
                            std::vector<std::string> choices, Store store)

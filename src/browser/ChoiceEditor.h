@@ -2,7 +2,6 @@
 // drop-down list of the choices and a button that stores another.
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -31,10 +30,6 @@ struct ChoiceEditorTexts {
     const char* notUnknown;   // when the unknown entry is chosen
     const char* question;     // before a change; the row's text and "?" follow it
 };
-
-// Stores a number of the current user. False when it doesn't stand there afterwards.
-bool StoreNumber(Application& application, const std::string& key, const std::string& valueName,
-                 std::int32_t number);
 
 class ChoiceEditor {
   public:

@@ -37,7 +37,8 @@ ProtocolDefaultsView::ProtocolDefaultsView(Application& application)
     : application_(application),
       editor_(application, Texts, SecurityZoneNames(),
               [this](const ListRow& row, int zone) {
-                  return StoreNumber(application_, ProtocolKey, row.Text(0), zone);
+                  return application_.registry.StoreDwordValue(Hive::CurrentUser, ProtocolKey,
+                                                               row.Text(0), zone);
               }),
       lblProtocol_("lblProtocol", "Protocol") {}
 

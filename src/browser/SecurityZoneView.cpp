@@ -112,8 +112,9 @@ void SecurityZoneView::loadSecurityZone(std::int16_t zone) {
 
 bool SecurityZoneView::StoreStatus(const ListRow& row, int position) {
     const std::optional<std::int32_t> action = DecodeDigits(row.Key());
-    return action && StoreNumber(application_, ZoneKey(SelectedZone()), std::to_string(*action),
-                                 ZoneStatuses[position].stored);
+    return action && application_.registry.StoreDwordValue(
+                         Hive::CurrentUser, ZoneKey(SelectedZone()), std::to_string(*action),
+                         ZoneStatuses[position].stored);
 }
 
 }  // namespace velkarix

@@ -41,6 +41,14 @@ bool IsText(std::uint32_t type) {
 
 }  // namespace
 
+Bytes DwordBytes(std::int32_t number) {
+    Bytes data;
+    for (int shift = 0; shift < 32; shift += 8) {
+        data.push_back(static_cast<std::uint8_t>(static_cast<std::uint32_t>(number) >> shift));
+    }
+    return data;
+}
+
 bool MakeRoom(Bytes& buffer, std::uint32_t size) {
     if (size > LargestValue) return false;
     buffer.resize(size);

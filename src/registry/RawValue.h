@@ -33,6 +33,9 @@ ErrorCode EnumRawValue(Registry& registry, KeyHandle key, std::uint32_t index,
 ErrorCode QueryRawValue(Registry& registry, KeyHandle key, const std::string& name,
                         RawValue& value);
 
+// What a REG_DWORD of that number holds.
+Bytes DwordBytes(std::int32_t number);
+
 // The memory for a value of a size that the registry claims; false when no real value is as large.
 bool MakeRoom(Bytes& buffer, std::uint32_t size);
 

@@ -6,6 +6,7 @@
 #include "base/Text.h"
 #include "registry/CopyKeyTree.h"
 #include "registry/KeyListing.h"
+#include "registry/KeyTree.h"
 #include "registry/OpenKey.h"
 
 namespace velkarix {
@@ -40,11 +41,15 @@ bool modRegistry::SetBinaryValue(Hive hive, const std::string& key, const std::s
 
 bool modRegistry::SetDwordValue(Hive hive, const std::string& key, const std::string& valueName,
                                 std::int32_t value) {
-    Bytes data;
-    for (int shift = 0; shift < 32; shift += 8) {
-        data.push_back(static_cast<std::uint8_t>(static_cast<std::uint32_t>(value) >> shift));
-    }
-    return SetValue(hive, key, valueName, registryType::Dword, data, true);
+    return SetValue(hive, key, valueName, registryType::Dword, DwordBytes(value), true);
+}
+
+bool modRegistry::StoreDwordValue(Hive hive, const std::string& key, const std::string& valueName,
+                                  std::int32_t value) {
+    if (!SetDwordValue(hive, key, valueName, value)) return false;
+    RawValue standing;
+    return ReadRawValue(registry_, hive, key, valueName, standing) == error::Success &&
+           StandsAs(standing, {valueName, registryType::Dword, DwordBytes(value)});
 }
 
 bool modRegistry::SetValue(Hive hive, const std::string& key, const std::string& valueName,

@@ -1,4 +1,4 @@
-// The only road to the registry: thirteen operations over the system's calls. A location is a hive
+// The only road to the registry: fourteen operations over the system's calls. A location is a hive
 // and the path of a key below it, without a backslash in front; an empty value name is the key's
 // default value. Writing and deleting tell the user at once when they fail; reading never does.
 // Every key that is opened is closed again: a handle left open would do nothing but leak.
@@ -34,6 +34,9 @@ class modRegistry {
     // REG_DWORD. Shows no message.
     bool SetDwordValue(Hive hive, const std::string& key, const std::string& valueName,
                        std::int32_t value);
+    // The same; false also when the number doesn't stand there afterwards.
+    bool StoreDwordValue(Hive hive, const std::string& key, const std::string& valueName,
+                         std::int32_t value);
     bool CreateKey(Hive hive, const std::string& key);
 
     // ---- Deleting. True when it is gone; `quiet` leaves out the message.

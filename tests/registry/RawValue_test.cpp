@@ -116,5 +116,10 @@ TEST(FoldedName, FoldsLettersThatAreNoSecondBytes) {
               "Ab");
 }
 
+TEST(DwordBytes, BeginWithTheLowest) {
+    EXPECT_EQ(DwordBytes(0x01020304), (Bytes{4, 3, 2, 1}));
+    EXPECT_EQ(DwordBytes(-2), (Bytes{0xFE, 0xFF, 0xFF, 0xFF}));
+}
+
 }  // namespace
 }  // namespace velkarix

@@ -103,6 +103,18 @@ TEST_F(modRegistryTest, SetDwordValueFailsWithoutAMessage) {
     EXPECT_EQ(Calls(), (Strings{"RegCreateKeyA"}));
 }
 
+TEST_F(modRegistryTest, StoreDwordValueLooksWhetherTheNumberStandsThere) {
+    EXPECT_TRUE(registry.StoreDwordValue(User, key, "Name", -2));
+    EXPECT_EQ(machine.registry.ValueAt(User, key, "Name")->data, (Bytes{0xFE, 0xFF, 0xFF, 0xFF}));
+    machine.FailNext("RegSetValueExA");
+    EXPECT_FALSE(registry.StoreDwordValue(User, key, "Name", 3));
+    machine.FailNext("RegQueryValueExA");
+    EXPECT_FALSE(registry.StoreDwordValue(User, key, "Name", 3));
+    machine.FailNext("RegCreateKeyA");
+    EXPECT_FALSE(registry.StoreDwordValue(User, key, "Name", 3));
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
 // ---- Deleting
 
 TEST_F(modRegistryTest, DeleteKeyIsOneCall) {
