@@ -1,11 +1,31 @@
 #include "shell/clsDeleteonReboot.h"
 
 #include <cstdint>
+#include <optional>
 
 #include "base/Text.h"
 #include "shell/TextFile.h"
 
 namespace velkarix {
+
+namespace {
+
+constexpr std::size_t MostOfTheFile = 32768;  // bytes; the system reads no more of it either
+constexpr const char* Heading = "[Rename]\r\n";
+
+// Puts the line behind the text of a file that holds `present`.
+ErrorCode AddLine(FileSystem& files, const std::string& path, const std::string& present,
+                  const std::string& line) {
+    std::string text = TrimAtNull(std::string_view(present).substr(0, MostOfTheFile));
+    const std::size_t kept = text.size();
+    if (!text.ends_with(LineBreak)) text.append(LineBreak);
+    text += line;
+    // The others' lines stay where they are, whatever becomes of this one.
+    return kept == present.size() ? AppendTextFile(files, path, std::string_view(text).substr(kept))
+                                  : WriteTextFile(files, path, text);
+}
+
+}  // namespace
 
 void clsDeleteonReboot::DestroyOnReboot(const std::string& path) {
     if (application_.machine.system.GetEnvironmentVariableA("OS") == "Windows_NT") {
@@ -29,8 +49,6 @@ void clsDeleteonReboot::AskTheSystem(const std::string& path) {
 }
 
 void clsDeleteonReboot::NameInWinInit(const std::string& path) {
-    constexpr std::size_t MostOfTheFile = 32768;  // bytes; the system reads no more of it either
-
     FileSystem& files = application_.machine.files;
     const std::string windows = application_.machine.system.GetEnvironmentVariableA("WinDir");
     if (windows.empty()) return;
@@ -38,22 +56,15 @@ void clsDeleteonReboot::NameInWinInit(const std::string& path) {
     const std::string line = "NUL=" + ShortPath(path) + std::string(LineBreak);
     std::string present;
     const ErrorCode read = ReadTextFile(files, winInit, present);
-    if (read == error::FileNotFound) {
-        WriteTextFile(files, winInit, "[Rename]" + std::string(LineBreak) + line);
-        return;
-    }
     // What can't be read must not be replaced: it may name other programs' files.
-    if (read != error::Success) return;
-    std::string text = TrimAtNull(std::string_view(present).substr(0, MostOfTheFile));
-    const std::size_t kept = text.size();
-    if (!text.ends_with(LineBreak)) text.append(LineBreak);
-    text += line;
-    if (kept == present.size()) {
-        // The others' lines stay where they are, whatever becomes of this one.
-        AppendTextFile(files, winInit, std::string_view(text).substr(kept));
-    } else {
-        WriteTextFile(files, winInit, text);
-    }
+    if (read != error::Success && read != error::FileNotFound) return;
+    const ErrorCode written = read == error::Success
+                                  ? AddLine(files, winInit, present, line)
+                                  : WriteTextFile(files, winInit, Heading + line);
+    if (written == error::Success) return;
+    // Half a line may name another file.
+    const std::optional<std::string> standing = ReadTextFile(files, winInit);
+    if (standing && *standing != present) WriteTextFile(files, winInit, present);
 }
 
 void DeleteOnReboot(Application& application, const std::string& path) {

@@ -235,4 +235,10 @@ std::size_t MemoryDisk::TakeSpace(std::size_t count) {
     return taken;
 }
 
+void MemoryDisk::GiveBack(std::size_t count) {
+    if (freeBytes_) {
+        *freeBytes_ += count;
+    }
+}
+
 }  // namespace velkarix

@@ -47,6 +47,8 @@ class MemoryDisk {
     std::shared_ptr<MemoryEntry> Writable(const std::string& path, ErrorCode& error);
     // Takes up to `count` bytes from what is free and says how many there were.
     std::size_t TakeSpace(std::size_t count);
+    // What a file had that was emptied.
+    void GiveBack(std::size_t count);
 
   private:
     // A path's drive ("C:", "\\\\server\\share") and levels; nothing for what is no path.

@@ -183,6 +183,7 @@ ErrorCode MemoryFileSystem::CreateFileA(const std::string& path, FileUse use, Fi
         return error::SharingViolation;
     }
     if (use == FileUse::Replace) {
+        disk_.GiveBack(open.entry->content.size());
         open.entry->content.clear();
     } else if (use == FileUse::Append) {
         open.position = open.entry->content.size();

@@ -139,6 +139,18 @@ TEST(MemoryMachine, AKeyNameHasAtMost255Bytes) {
     EXPECT_TRUE(machine.registry.SubKeysOf(Hive::CurrentUser, "").empty());
 }
 
+TEST(MemoryMachine, AFileThatIsEmptiedGivesItsRoomBack) {
+    MemoryMachine machine;
+    machine.AddFile("C:\\file").Content("abc");
+    machine.disk.SetFreeBytes(1);
+    FileHandle file = 0;
+    ASSERT_EQ(machine.files.CreateFileA("C:\\file", FileUse::Replace, file), error::Success);
+    std::uint32_t written = 0;
+    machine.files.WriteFile(file, Bytes(9), written);
+    EXPECT_EQ(written, 4u);
+    machine.files.CloseFile(file);
+}
+
 TEST(MemoryMachine, APathHasAtMost259BytesAndStartsOnADriveThatIsThere) {
     MemoryMachine machine;
     FileSystem& files = machine.Parts().files;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -92,6 +93,26 @@ TEST_F(DeleteOnRebootTest, LeavesTheLinesOfOthersWhereTheDiskIsFull) {
     Delete();
     EXPECT_EQ(Text(), others);
     for (const Call& call : program.machine.Journal().Calls()) EXPECT_NE(call.name, "DeleteFileA");
+}
+
+// A path that is cut may be another file's.
+TEST_F(DeleteOnRebootTest, LeavesNoPartOfALine) {
+    for (const std::uint64_t room : {1, 14, 25}) {
+        program.machine.disk.SetFreeBytes(room);
+        Delete();
+        EXPECT_EQ(Text(), "") << room;
+        const std::string others = "[Rename]\r\nNUL=C:\\OLD.EXE\r\n";
+        program.machine.AddFile(WinInit).Content(others);
+        program.machine.disk.SetFreeBytes(room);
+        Delete();
+        EXPECT_EQ(Text(), others) << room;
+        program.machine.disk.Remove(WinInit);
+    }
+    const std::string large(40000, 'x');
+    program.machine.AddFile(WinInit).Content(large);
+    program.machine.FailNext("WriteFile", error::DiskFull);
+    Delete();
+    EXPECT_EQ(Text(), large);
 }
 
 TEST_F(DeleteOnRebootTest, WritesNothingOverAFileThatSeemsToBeMissing) {
