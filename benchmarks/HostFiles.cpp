@@ -96,6 +96,10 @@ ErrorCode HostFiles::WriteFile(FileHandle, std::span<const std::uint8_t>, std::u
     return error::AccessDenied;
 }
 
+ErrorCode HostFiles::FlushFileBuffers(FileHandle) {
+    return error::AccessDenied;
+}
+
 bool HostFiles::CloseFile(FileHandle file) {
     return close(DescriptorOf(file)) == 0;
 }

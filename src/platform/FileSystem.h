@@ -77,6 +77,8 @@ class FileSystem {
     // `written` may be short when the disk is full.
     virtual ErrorCode WriteFile(FileHandle file, std::span<const std::uint8_t> data,
                                 std::uint32_t& written) = 0;
+    // Has what was written put on the disk before it comes back. AccessDenied for a reader.
+    virtual ErrorCode FlushFileBuffers(FileHandle file) = 0;
     virtual bool CloseFile(FileHandle file) = 0;  // CloseHandle
 };
 

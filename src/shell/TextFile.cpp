@@ -9,16 +9,21 @@ namespace velkarix {
 
 namespace {
 
+ErrorCode WriteAll(FileSystem& files, FileHandle file, std::string_view text) {
+    std::uint32_t written = 0;
+    const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
+    const ErrorCode result = files.WriteFile(file, std::span(bytes, text.size()), written);
+    if (result != error::Success) return result;
+    return written == text.size() ? error::Success : error::HandleDiskFull;
+}
+
 ErrorCode Write(FileSystem& files, const std::string& path, FileUse use, std::string_view text) {
     FileHandle file = 0;
     const ErrorCode opened = files.CreateFileA(path, use, file);
     if (opened != error::Success) return opened;
-    std::uint32_t written = 0;
-    const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
-    const ErrorCode result = files.WriteFile(file, std::span(bytes, text.size()), written);
+    const ErrorCode written = WriteAll(files, file, text);
     files.CloseFile(file);
-    if (result != error::Success) return result;
-    return written == text.size() ? error::Success : error::HandleDiskFull;
+    return written;
 }
 
 }  // namespace
@@ -55,6 +60,13 @@ std::optional<std::string> ReadFirstLine(FileSystem& files, const std::string& p
 
 ErrorCode WriteTextFile(FileSystem& files, const std::string& path, std::string_view text) {
     return Write(files, path, FileUse::Replace, text);
+}
+
+ErrorCode WriteThrough(FileSystem& files, FileHandle file, std::string_view text) {
+    ErrorCode result = WriteAll(files, file, text);
+    if (result == error::Success) result = files.FlushFileBuffers(file);
+    files.CloseFile(file);
+    return result;
 }
 
 ErrorCode AppendTextFile(FileSystem& files, const std::string& path, std::string_view text) {

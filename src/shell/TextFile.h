@@ -20,7 +20,10 @@ std::optional<std::string> ReadFirstLine(FileSystem& files, const std::string& p
 // Replaces the file. The code of what failed, or Success; a disk that takes less than all of the
 // text is HandleDiskFull.
 ErrorCode WriteTextFile(FileSystem& files, const std::string& path, std::string_view text);
-// Writes behind the file's end and makes it when missing; results as above.
+// The same for a file that is open for writing: writes the text, has it put on the disk, and closes
+// the file.
+ErrorCode WriteThrough(FileSystem& files, FileHandle file, std::string_view text);
+// Writes behind the file's end and makes it when missing; results as of WriteTextFile.
 ErrorCode AppendTextFile(FileSystem& files, const std::string& path, std::string_view text);
 // The lines of a text without their ends, which are CR LF, CR or LF. A last line without an end
 // counts, an empty text has none.

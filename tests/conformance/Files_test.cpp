@@ -232,6 +232,26 @@ TEST_P(FileConformance, PiecesAreWrittenOneBehindTheOther) {
     EXPECT_EQ(home_->ContentOf(In("file.txt")), "abc");
 }
 
+TEST_P(FileConformance, AWriterMayHaveItsTextPutOnTheDisk) {
+    FileHandle file = 0;
+    ASSERT_EQ(files_.CreateFileA(In("file.txt"), FileUse::Replace, file), error::Success);
+    std::uint32_t written = 0;
+    files_.WriteFile(file, Bytes{'a', 'b'}, written);
+    EXPECT_EQ(files_.FlushFileBuffers(file), error::Success);
+    EXPECT_EQ(home_->ContentOf(In("file.txt")), "ab");
+    files_.WriteFile(file, Bytes{'c'}, written);
+    files_.CloseFile(file);
+    EXPECT_EQ(home_->ContentOf(In("file.txt")), "abc");
+}
+
+TEST_P(FileConformance, AReaderMayNotHaveAnythingPutOnTheDisk) {
+    home_->MakeFile(In("file.txt"), "text");
+    FileHandle file = 0;
+    ASSERT_EQ(files_.CreateFileA(In("file.txt"), FileUse::Read, file), error::Success);
+    EXPECT_EQ(files_.FlushFileBuffers(file), error::AccessDenied);
+    files_.CloseFile(file);
+}
+
 TEST_P(FileConformance, AReadOnlyFileIsReadButNotWritten) {
     if (!home_->KeepsReadOnly()) {
         GTEST_SKIP() << "this user may write read-only files";

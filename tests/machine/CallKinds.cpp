@@ -33,6 +33,7 @@ constexpr Trouble AtFile[] = {denied, inUse, gone};
 constexpr Trouble AtOpening[] = {denied, inUse, diskFull, gone};
 constexpr Trouble AtReading[] = {{Kind::Fails, ReadFault}};
 constexpr Trouble AtWriting[] = {diskFull, {Kind::Fills}, {Kind::EndsWithin}};
+constexpr Trouble AtFlushing[] = {diskFull};
 constexpr Trouble AtCopying[] = {denied,           inUse, gone, {Kind::Fills}, {Kind::EndsWithin},
                                  {Kind::CutsShort}};
 constexpr Trouble AtFolder[] = {denied, diskFull};
@@ -75,6 +76,7 @@ constexpr CallKind Kinds[] = {
     {"GetFileSize", Looks, AtAny},
     {"ReadFile", Looks, AtReading},
     {"WriteFile", ChangesIt, AtWriting},
+    {"FlushFileBuffers", Looks, AtFlushing},
     {"CloseFile", Looks, AtAny},
 
     {"GetLocalTime", Looks, AtAny},

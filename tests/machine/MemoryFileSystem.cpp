@@ -248,6 +248,17 @@ ErrorCode MemoryFileSystem::WriteFile(FileHandle file, std::span<const std::uint
     return error::Success;
 }
 
+ErrorCode MemoryFileSystem::FlushFileBuffers(FileHandle file) {
+    if (const ErrorCode failure = journal_.Enter("FlushFileBuffers")) {
+        return failure;
+    }
+    const auto open = files_.find(file);
+    if (open == files_.end()) {
+        return error::InvalidHandle;
+    }
+    return open->second.use == FileUse::Read ? error::AccessDenied : error::Success;
+}
+
 bool MemoryFileSystem::CloseFile(FileHandle file) {
     return !journal_.Enter("CloseFile") && files_.erase(file) != 0;
 }

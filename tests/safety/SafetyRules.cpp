@@ -198,13 +198,13 @@ constexpr ChangingCall ChangingCalls[] = {
 // What changes nothing outside of the program itself: it reads, or it is about the program's own
 // windows, handles and rights. Files that are written are told by their opening.
 constexpr std::string_view HarmlessBeginnings[] = {
-    "Get",         "Find",          "RegOpenKey", "RegCloseKey",   "RegEnum",     "RegQuery",
-    "Path",        "ReadFile",      "Close",      "ExtractIconEx", "DrawIconEx",  "DestroyIcon",
-    "Crypt",       "VerQuery",      "Enum",       "Process32",     "CreateTool",  "OpenProcess",
-    "Expand",      "FileTime",      "FormatMes",  "VarDate",       "WideChar",    "Lookup",
-    "Make",        "Sleep",         "CreateFile", "WriteFile",     "CreateMutex", "AdjustToken",
-    "SetMenuItem", "SetWindow",     "SetParent",  "SetForeground", "SendMessage", "ShowWindow",
-    "OpenIcon",    "CreateShortcut"};
+    "Get",         "Find",           "RegOpenKey", "RegCloseKey",   "RegEnum",     "RegQuery",
+    "Path",        "ReadFile",       "Close",      "ExtractIconEx", "DrawIconEx",  "DestroyIcon",
+    "Crypt",       "VerQuery",       "Enum",       "Process32",     "CreateTool",  "OpenProcess",
+    "Expand",      "FileTime",       "FormatMes",  "VarDate",       "WideChar",    "Lookup",
+    "Make",        "Sleep",          "CreateFile", "WriteFile",     "CreateMutex", "AdjustToken",
+    "SetMenuItem", "SetWindow",      "SetParent",  "SetForeground", "SendMessage", "ShowWindow",
+    "OpenIcon",    "CreateShortcut", "FlushFile"};
 
 const ChangingCall* FindChanging(const std::string& name) {
     const auto found = std::find_if(std::begin(ChangingCalls), std::end(ChangingCalls),

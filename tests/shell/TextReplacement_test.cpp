@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "tests/machine/MemoryMachine.h"
 
@@ -56,6 +58,46 @@ TEST_F(TextReplacement, KeepsAFileThatMayNotBeWritten) {
     EXPECT_FALSE(HasBeside());
 }
 
+TEST_F(TextReplacement, LeavesNothingBesideAFileThatAnotherHolds) {
+    machine.AddFile(Path).Content("old").Unreadable();
+    EXPECT_EQ(Replace("new"), error::SharingViolation);
+    EXPECT_FALSE(HasBeside());
+}
+
+TEST_F(TextReplacement, GivesTheNewTextWhereTheFileWasCut) {
+    Replace("the old text\r\n");
+    machine.FailNext("WriteFile", error::Success);
+    machine.FailNext("WriteFile", error::DiskFull);
+    EXPECT_EQ(Replace("the new text\r\n"), error::DiskFull);
+    EXPECT_EQ(machine.disk.ContentOf(Path), "");
+    EXPECT_EQ(Read(), "the new text\r\n");
+    EXPECT_EQ(machine.disk.ContentOf(Path), "the new text\r\n");
+    EXPECT_FALSE(HasBeside());
+}
+
+TEST_F(TextReplacement, PutsEachTextOnTheDiskBeforeItGoesOn) {
+    Replace("text\r\n");
+    std::vector<std::string> steps;
+    for (const Call& call : machine.Journal().Calls()) {
+        if (call.forWriting || call.name == "DeleteFileA") steps.push_back(call.arguments);
+        if (call.name == "WriteFile" || call.name == "FlushFileBuffers") steps.push_back(call.name);
+    }
+    EXPECT_EQ(steps, (std::vector<std::string>{Beside, "WriteFile", "FlushFileBuffers", Path,
+                                               "WriteFile", "FlushFileBuffers", Beside}));
+}
+
+TEST_F(TextReplacement, TakesNothingForWrittenThatIsNotOnTheDisk) {
+    Replace("the old text\r\n");
+    machine.FailNext("FlushFileBuffers", error::DiskFull);
+    EXPECT_EQ(Replace("the new text\r\n"), error::DiskFull);
+    EXPECT_FALSE(HasBeside());
+    EXPECT_EQ(Read(), "the old text\r\n");
+    machine.FailNext("FlushFileBuffers", error::Success);
+    machine.FailNext("FlushFileBuffers", error::DiskFull);
+    EXPECT_EQ(Replace("the new text\r\n"), error::DiskFull);
+    EXPECT_TRUE(HasBeside());
+}
+
 // Wherever the process ends, the next one reads the old text or the new one, and no part.
 TEST_F(TextReplacement, IsFinishedByTheNextReader) {
     for (std::size_t call = 0;; ++call) {
@@ -97,6 +139,8 @@ TEST_F(TextReplacement, IsNotReadWhereWhatStandsBesideCanNotBeRead) {
 TEST_F(TextReplacement, GivesTheNewTextThoughItCanNotBeFinished) {
     machine.AddFile(Path).Content("half").ReadOnly();
     machine.AddFile(Beside).Content("whole\r\n\x1A\r\n");
+    EXPECT_EQ(Read(), "whole\r\n");
+    EXPECT_EQ(Replace("newer\r\n"), error::AccessDenied);
     EXPECT_EQ(Read(), "whole\r\n");
 }
 

@@ -146,6 +146,10 @@ ErrorCode Win32FileSystem::WriteFile(FileHandle file, std::span<const std::uint8
     return result;
 }
 
+ErrorCode Win32FileSystem::FlushFileBuffers(FileHandle file) {
+    return ::FlushFileBuffers(HandleOf(file)) ? error::Success : ::GetLastError();
+}
+
 bool Win32FileSystem::CloseFile(FileHandle file) {
     return ::CloseHandle(HandleOf(file)) != FALSE;
 }

@@ -24,6 +24,7 @@ class Win32FileSystem : public FileSystem {
                        std::uint32_t& read) override;
     ErrorCode WriteFile(FileHandle file, std::span<const std::uint8_t> data,
                         std::uint32_t& written) override;
+    ErrorCode FlushFileBuffers(FileHandle file) override;
     bool CloseFile(FileHandle file) override;
 
   private:
