@@ -7,11 +7,10 @@ namespace velkarix {
 
 // Posted to the application window: destroyed forms may be able to go now.
 inline constexpr UINT EndFormsMessage = WM_APP;
-// Sent to a form's window: a control, the second argument, got the focus and wants to be seen.
+// Sent to a form's window: a control, the second argument, got the focus and wants to be seen. A
+// page passes it on to the form that it stands in.
 inline constexpr UINT RevealMessage = WM_APP + 1;
-// Sent to a form's window: other controls of it are on view.
-inline constexpr UINT OtherViewMessage = WM_APP + 2;
-// Sent to a form's window: what its controls are placed by has changed.
-inline constexpr UINT RearrangeMessage = WM_APP + 3;
+// Sent to a form's window: what its controls are placed by has changed, or which are on view.
+inline constexpr UINT RearrangeMessage = WM_APP + 2;
 
 }  // namespace velkarix

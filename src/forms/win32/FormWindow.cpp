@@ -5,6 +5,7 @@
 #include "forms/win32/Icons.h"
 #include "forms/win32/WindowClasses.h"
 #include "forms/win32/WindowName.h"
+#include "forms/win32/WindowTree.h"
 
 namespace velkarix {
 
@@ -72,17 +73,24 @@ void FormWindow::ArrangeControls() {
 }
 
 // True when the controls have other places now.
-bool FormWindow::OnScrolling(UINT message, WPARAM wParam, LPARAM lParam) {
+bool FormWindow::OnScrolling(UINT message, WPARAM wParam) {
     switch (message) {
         case WM_HSCROLL:
         case WM_VSCROLL:
             return scroll_.OnScroll(handle_, message, wParam);
         case MouseWheel:
             return scroll_.OnWheel(handle_, wParam);
-        case RevealMessage:
-            return scroll_.Reveal(handle_, reinterpret_cast<HWND>(lParam));
         default:
-            return message == OtherViewMessage;
+            return false;
+    }
+}
+
+// In a page that has room enough, it may be the main form that hides a part.
+void FormWindow::Reveal(HWND control) {
+    if (scroll_.Reveal(handle_, control)) ArrangeControls();
+    const HWND outer = TopLevelOf(handle_);
+    if (outer != handle_) {
+        SendMessageA(outer, RevealMessage, 0, reinterpret_cast<LPARAM>(control));
     }
 }
 
@@ -106,7 +114,7 @@ LRESULT CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wParam,
 }
 
 LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (OnScrolling(message, wParam, lParam)) {
+    if (OnScrolling(message, wParam)) {
         ArrangeControls();
         return 0;
     }
@@ -118,6 +126,9 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             // Its form may have set texts as it loaded.
             if (wParam != FALSE) ArrangeControls();
             break;
+        case RevealMessage:
+            Reveal(reinterpret_cast<HWND>(lParam));
+            return 0;
         case RearrangeMessage:
             ArrangeControls();
             return 0;

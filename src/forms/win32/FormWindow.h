@@ -39,7 +39,8 @@ class FormWindow : public Form::View {
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
     void OnActivate(bool active);
     void ArrangeControls();
-    bool OnScrolling(UINT message, WPARAM wParam, LPARAM lParam);
+    bool OnScrolling(UINT message, WPARAM wParam);
+    void Reveal(HWND control);
     void SetIcons();
 
     DesktopContext& context_;

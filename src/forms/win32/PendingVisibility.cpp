@@ -29,7 +29,7 @@ void PendingVisibility::Refresh() {
         std::vector<Change> siblings(changes_.begin(), others);
         changes_.erase(changes_.begin(), others);
         Apply(siblings);
-        SendMessageA(parent, OtherViewMessage, 0, 0);
+        SendMessageA(parent, RearrangeMessage, 0, 0);
         const bool lost = std::any_of(siblings.begin(), siblings.end(), [&](const Change& each) {
             return each.window == focus && !each.shown;
         });

@@ -52,5 +52,35 @@ TEST_F(MainWindowOnTheSmallestScreen, HoldsTheStripOfFindingTooAndAllThatStandsB
     EXPECT_LT(AreaOf("cmdFindPrevious").right, AreaOf("cmdFindClose").left);
 }
 
+// So small a screen that the main window scrolls.
+TEST(MainWindowWithBars, ShowsTheControlOfItsPageThatGetsTheFocus) {
+    PageOnScreen<frmIE> screen(640, 300);
+    const HWND window = screen.MainWindow();
+    ShowWindow(window, SW_SHOW);
+    screen.Settle();
+    ASSERT_NE(GetWindowLongA(window, GWL_STYLE) & WS_VSCROLL, 0);
+    const auto shown = [window](HWND control) {
+        RECT area{};
+        RECT client{};
+        GetWindowRect(control, &area);
+        MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&area), 2);
+        GetClientRect(window, &client);
+        return area.left >= 0 && area.top >= 0 && area.right <= client.right &&
+               area.bottom <= client.bottom;
+    };
+    int hidden = 0;
+    for (const Control* control : screen.page.Controls()) {
+        const HWND button = NamedWindow(window, control->Name());
+        constexpr LONG Reachable = WS_VISIBLE | WS_TABSTOP;
+        const LONG style = GetWindowLongA(button, GWL_STYLE);
+        const bool isButton = dynamic_cast<const Button*>(control) != nullptr;
+        if (!isButton || (style & (Reachable | WS_DISABLED)) != Reachable) continue;
+        if (!shown(button)) ++hidden;
+        SetFocus(button);
+        EXPECT_TRUE(shown(button)) << control->Name();
+    }
+    EXPECT_GT(hidden, 0);
+}
+
 }  // namespace
 }  // namespace velkarix
