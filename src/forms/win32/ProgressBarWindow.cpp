@@ -2,7 +2,12 @@
 
 namespace velkarix {
 
-// The native bar goes from 0 to 100 unless it is told otherwise.
+namespace {
+
+constexpr int Whole = 100;
+
+}  // namespace
+
 ProgressBarWindow::ProgressBarWindow(DesktopContext& context, ProgressBar& bar,
                                      const ControlPlace& place)
     : ControlWindow(context, bar, place, {PROGRESS_CLASSA, 0}), bar_(bar) {
@@ -24,7 +29,13 @@ void ProgressBarWindow::Changed(Aspect aspect) {
 }
 
 void ProgressBarWindow::ShowPercent() const {
-    Send(PBM_SETPOS, static_cast<WPARAM>(bar_.Percent()));
+    const int percent = bar_.Percent();
+    // Windows Vista and later let the bar grow by a timer, which stands still while a handler runs;
+    // what shrinks is drawn at once. So it goes one too far and back, at its end beyond the range.
+    Send(PBM_SETRANGE, 0, MAKELPARAM(0, Whole + 1));
+    Send(PBM_SETPOS, static_cast<WPARAM>(percent + 1));
+    Send(PBM_SETPOS, static_cast<WPARAM>(percent));
+    Send(PBM_SETRANGE, 0, MAKELPARAM(0, Whole));
 }
 
 }  // namespace velkarix

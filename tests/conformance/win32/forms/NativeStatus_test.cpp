@@ -95,6 +95,28 @@ TEST_F(NativeStatusTest, BarComesMovesAndGoesWithinTheHandler) {
     EXPECT_TRUE(gone);
 }
 
+std::vector<WPARAM> positions;
+WNDPROC nativeBar = nullptr;
+
+LRESULT CALLBACK KeepPositions(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == PBM_SETPOS) positions.push_back(wParam);
+    return CallWindowProcA(nativeBar, window, message, wParam, lParam);
+}
+
+// Only what shrinks is drawn while no events are served, on systems where the bar grows by itself.
+TEST_F(NativeStatusTest, BarGoesOneTooFarAndBack) {
+    const HWND bar = Window("barTest");
+    positions.clear();
+    nativeBar = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(bar, GWLP_WNDPROC));
+    SetWindowLongPtrA(bar, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(KeepPositions));
+    page_->bar.SetPercent(40);
+    page_->bar.SetPercent(100);
+    SetWindowLongPtrA(bar, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(nativeBar));
+    EXPECT_EQ(positions, (std::vector<WPARAM>{41, 40, 101, 100}));
+    EXPECT_EQ(SendMessageA(bar, PBM_GETPOS, 0, 0), 100);
+    EXPECT_EQ(SendMessageA(bar, PBM_GETRANGE, FALSE, 0), 100);
+}
+
 // What waits for the handler's end waits, whether a key or a click has begun it.
 TEST_F(NativeStatusTest, DrawingAtOnceEndsNoHandlerThatAKeyHasBegun) {
     std::string text = "none";
