@@ -21,6 +21,14 @@ RECT Centred(LONG width, LONG height, const RECT& around, const RECT& limits) {
     return {left, top, left + width, top + height};
 }
 
+// As much of an outer size as fits the screen; where one way is cut, the other has room for the
+// bar that scrolls it.
+SIZE OnScreen(LONG width, LONG height, const RECT& screen) {
+    const LONG bar = height > Height(screen) ? GetSystemMetrics(SM_CXVSCROLL) : 0;
+    const LONG levelBar = width > Width(screen) ? GetSystemMetrics(SM_CYHSCROLL) : 0;
+    return {std::min(width + bar, Width(screen)), std::min(height + levelBar, Height(screen))};
+}
+
 // The outer size at which the whole layout is seen.
 RECT MinimumOutside(const Form& form, const FormFrame& frame, DesktopContext& context) {
     const Size layout = MinimumSize(form.FormLayout(), context.metrics);
@@ -37,8 +45,8 @@ FormFrame MainFrame(const Form& form, DesktopContext& context) {
     const RECT screen = WorkArea();
     const LONG width = std::max<LONG>(context.metrics.InLetters(MainWidthAt96), Width(least));
     const LONG height = std::max<LONG>(context.metrics.InLetters(MainHeightAt96), Height(least));
-    frame.outside =
-        Centred(std::min(width, Width(screen)), std::min(height, Height(screen)), screen, screen);
+    const SIZE size = OnScreen(width, height, screen);
+    frame.outside = Centred(size.cx, size.cy, screen, screen);
     return frame;
 }
 
@@ -51,9 +59,8 @@ FormFrame PageFrame(HWND host) {
 FormFrame DialogFrame(const Form& form, DesktopContext& context) {
     FormFrame frame{WS_POPUP | WS_CAPTION | WS_SYSMENU, WS_EX_DLGMODALFRAME, {}};
     const RECT least = MinimumOutside(form, frame, context);
-    const RECT screen = WorkArea();
-    frame.outside = {0, 0, std::min(Width(least), Width(screen)),
-                     std::min(Height(least), Height(screen))};
+    const SIZE size = OnScreen(Width(least), Height(least), WorkArea());
+    frame.outside = {0, 0, size.cx, size.cy};
     return frame;
 }
 

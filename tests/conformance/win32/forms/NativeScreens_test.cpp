@@ -36,5 +36,37 @@ TEST_F(NativeSmallScreenTest, NothingStandsBeyondTheEdgesOfThePage) {
     }
 }
 
+class Tall : public Form {
+  public:
+    Tall() : Form("frmTall", "Tall", FormKind::Dialog) {
+        Layout column = Column({});
+        std::vector<Control*> controls;
+        for (int i = 0; i < 20; ++i) {
+            const std::string name = "cmd" + std::to_string(i);
+            buttons_.push_back(std::make_unique<Button>(name.c_str(), "A button", [] {}));
+            controls.push_back(buttons_.back().get());
+            column.children.push_back(Item(*buttons_.back()));
+        }
+        SetControls(std::move(controls));
+        SetLayout(std::move(column));
+    }
+
+  private:
+    std::vector<std::unique_ptr<Button>> buttons_;
+};
+
+// A bar takes room, which mustn't make the other one necessary.
+TEST_F(NativeFormsTest, DialogThatIsTooHighForTheScreenHasOneBar) {
+    const WorkAreaOf screen(Pixels(640), Pixels(300));
+    Tall form;
+    desktop.Create(form, nullptr);
+    const auto window = reinterpret_cast<HWND>(desktop.HandleOf(form));
+    ShowWindow(window, SW_SHOWNA);
+    const LONG style = GetWindowLongA(window, GWL_STYLE);
+    EXPECT_NE(style & WS_VSCROLL, 0);
+    EXPECT_EQ(style & WS_HSCROLL, 0);
+    desktop.Destroy(form);
+}
+
 }  // namespace
 }  // namespace velkarix
