@@ -8,14 +8,11 @@
 
 namespace velkarix {
 
-bool LoadSafeList(FileSystem& files, SafeProcesses& list, const std::string& fileName,
-                  ErrorCode* failure) {
+ErrorCode LoadSafeList(FileSystem& files, SafeProcesses& list, const std::string& fileName) {
     std::string text;
     const ErrorCode result = ReadReplacedTextFile(files, fileName, text);
     list = SplitLines(result == error::Success ? text : std::string());
-    if (result == error::Success || result == error::FileNotFound) return true;
-    if (failure != nullptr) *failure = result;
-    return false;
+    return result == error::FileNotFound ? error::Success : result;
 }
 
 bool IsInSafeList(const SafeProcesses& list, const std::string& key) {

@@ -11,10 +11,9 @@ namespace velkarix {
 
 using SafeProcesses = std::vector<std::string>;  // keys in the order of the file
 
-// Makes `list` the file's lines; empty when the file is missing or can't be read. False when there
-// is a file that can't be read; `failure` is the code of why then.
-bool LoadSafeList(FileSystem& files, SafeProcesses& list, const std::string& fileName,
-                  ErrorCode* failure = nullptr);
+// Makes `list` the file's lines; empty when the file is missing, which is a Success too, or can't
+// be read: then it gives the code of why.
+ErrorCode LoadSafeList(FileSystem& files, SafeProcesses& list, const std::string& fileName);
 // False for an empty key.
 bool IsInSafeList(const SafeProcesses& list, const std::string& key);
 // Removes the first item equal to `key`. False when there is none.

@@ -38,11 +38,9 @@ void frmProcess::TellNotAdded(ErrorCode code) {
 }
 
 void frmProcess::ReadSafeList() {
-    safeListFailure_ = error::Success;
     const std::string path = SafeListFile();
-    const bool read =
-        LoadSafeList(application_.machine.files, safeProcessList_, path, &safeListFailure_);
-    application_.unread.Note(path, "", read);
+    safeListFailure_ = LoadSafeList(application_.machine.files, safeProcessList_, path);
+    application_.unread.Note(path, "", safeListFailure_ == error::Success);
 }
 
 ErrorCode frmProcess::EnsureSafeList() {

@@ -20,16 +20,14 @@ TEST_F(SafeListTest, IsEmptyWithoutAFile) {
 }
 
 TEST_F(SafeListTest, IsEmptyForAnEmptyFileAndForOneThatCanNotBeRead) {
-    EXPECT_TRUE(LoadSafeList(machine.files, list, file));
+    EXPECT_EQ(LoadSafeList(machine.files, list, file), error::Success);
     machine.AddFile(file);
-    EXPECT_TRUE(LoadSafeList(machine.files, list, file));
+    EXPECT_EQ(LoadSafeList(machine.files, list, file), error::Success);
     EXPECT_TRUE(list.empty());
     machine.AddFile(file).Content("key\r\n").Unreadable();
     list = {"left"};
-    ErrorCode failure = error::Success;
-    EXPECT_FALSE(LoadSafeList(machine.files, list, file, &failure));
+    EXPECT_EQ(LoadSafeList(machine.files, list, file), error::SharingViolation);
     EXPECT_TRUE(list.empty());
-    EXPECT_EQ(failure, error::SharingViolation);
 }
 
 TEST_F(SafeListTest, HoldsEachLineInTheOrderOfTheFile) {
