@@ -44,6 +44,8 @@ class frmMain : public Form {
     bool ShowPage(const std::string& page);
     void ShowActivePage();
     void MarkActivePage();
+    // All lists of the page on view, seen or not.
+    std::vector<ListView*> ListsOfPage() const;
     void FollowLists(const Handler& onChange);
     // The list that the user sees; null where the page on view shows none.
     ListView* ListOnView() const;

@@ -4,21 +4,24 @@
 
 namespace velkarix {
 
+std::vector<ListView*> frmMain::ListsOfPage() const {
+    const Form* page = application_.forms.Loaded(activePage_);
+    std::vector<ListView*> lists;
+    if (page == nullptr) return lists;
+    for (Control* control : page->Controls()) {
+        if (auto* list = dynamic_cast<ListView*>(control)) lists.push_back(list);
+    }
+    return lists;
+}
+
 // Each list of the page on view tells `onChange` what becomes of it.
 void frmMain::FollowLists(const Handler& onChange) {
-    const Form* page = application_.forms.Loaded(activePage_);
-    if (page == nullptr) return;
-    for (Control* control : page->Controls()) {
-        if (auto* list = dynamic_cast<ListView*>(control)) list->SetOnChange(onChange);
-    }
+    for (ListView* list : ListsOfPage()) list->SetOnChange(onChange);
 }
 
 ListView* frmMain::ListOnView() const {
-    const Form* page = application_.forms.Loaded(activePage_);
-    if (page == nullptr) return nullptr;
-    for (Control* control : page->Controls()) {
-        auto* list = dynamic_cast<ListView*>(control);
-        if (list != nullptr && list->Shown()) return list;
+    for (ListView* list : ListsOfPage()) {
+        if (list->Shown()) return list;
     }
     return nullptr;
 }
