@@ -45,18 +45,14 @@ Size WholeInside(HWND window) {
 
 Rect FormScroll::PlaceFor(HWND window, const Size& least) {
     Size inside = WholeInside(window);
+    const int uprightBar = GetSystemMetrics(SM_CXVSCROLL);
+    const int levelBar = GetSystemMetrics(SM_CYHSCROLL);
     // Each bar takes room that may make the other one necessary.
-    const int upright = GetSystemMetrics(SM_CXVSCROLL);
-    const int level = GetSystemMetrics(SM_CYHSCROLL);
-    const bool both = least.width > inside.width && least.height > inside.height;
-    if (both || (least.height > inside.height && least.width > inside.width - upright) ||
-        (least.width > inside.width && least.height > inside.height - level)) {
-        inside = {inside.width - upright, inside.height - level};
-    } else if (least.height > inside.height) {
-        inside.width -= upright;
-    } else if (least.width > inside.width) {
-        inside.height -= level;
-    }
+    bool upright = least.height > inside.height;
+    const bool level = least.width > inside.width - (upright ? uprightBar : 0);
+    upright = upright || least.height > inside.height - (level ? levelBar : 0);
+    if (upright) inside.width -= uprightBar;
+    if (level) inside.height -= levelBar;
     const Size room{std::max(inside.width, least.width), std::max(inside.height, least.height)};
     fitting_ = true;
     ShowBar(window, SB_HORZ, room.width, inside.width);
