@@ -11,12 +11,13 @@ namespace velkarix {
 // walk.
 
 void frmProcess::cmdAdd_Click() {
+    if (lstvProcess_.Counts().ticked == 0) return;
+    const ErrorCode known = EnsureSafeList();
+    if (known != error::Success) return TellNotAdded(known);
     bool changed = false;
     for (std::size_t i = lstvProcess_.RowCount(); i > 0; --i) {
         ListRow& row = lstvProcess_.Row(i - 1);
         if (!row.Checked()) continue;
-        const ErrorCode known = EnsureSafeList();
-        if (known != error::Success) return TellNotAdded(known);
         const std::string key = ProcessKey(application_, FullPath(row));
         if (IsInSafeList(safeProcessList_, key)) continue;
         safeProcessList_.push_back(key);
@@ -49,11 +50,11 @@ ErrorCode frmProcess::EnsureSafeList() {
 }
 
 void frmProcess::cmdRemove_Click() {
+    if (lstvProcess_.Counts().ticked == 0 || EnsureSafeList() != error::Success) return;
     bool changed = false;
     for (std::size_t i = lstvProcess_.RowCount(); i > 0; --i) {
         ListRow& row = lstvProcess_.Row(i - 1);
         if (!row.Checked()) continue;
-        if (EnsureSafeList() != error::Success) return;
         const std::string key = ProcessKey(application_, FullPath(row));
         if (!RemoveFromSafeList(safeProcessList_, key)) continue;
         row.SetChecked(false);
