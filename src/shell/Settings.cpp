@@ -100,11 +100,15 @@ std::string_view WithoutLeadingBlanks(std::string_view text) {
 
 }  // namespace
 
-std::string Settings::InstallFolder() {
+void Settings::LearnInstallFolder() {
     const std::string program = system_.GetModuleFileNameA();
     if (!program.empty()) {
         installFolder_ = program.substr(0, std::min(program.rfind('\\'), program.size()));
     }
+}
+
+std::string Settings::InstallFolder() {
+    LearnInstallFolder();
     return installFolder_;
 }
 

@@ -15,9 +15,12 @@ class Settings {
     explicit Settings(const Machine& machine)
         : profileFiles_(machine.profileFiles), system_(machine.system) {}
 
-    // The folder that the program runs from, without a backslash at its end; as it was told before
+    // The folder that the program runs from, without a backslash at its end; as it was learnt last
     // where the system can't tell it, since files would come to lie in a root folder otherwise.
     std::string InstallFolder();
+    // Has the system tell that folder. InstallFolder does so itself; asked early, it is known for
+    // all that follows.
+    void LearnInstallFolder();
 
     // An empty `file` is Settings.ini in the InstallFolder, any other is a full path.
 

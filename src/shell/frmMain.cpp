@@ -90,7 +90,7 @@ frmMain::~frmMain() {
 }
 
 void frmMain::Form_Load() {
-    application_.settings.InstallFolder();  // known from now on
+    application_.settings.LearnInstallFolder();
     SetCaption(std::string(ApplicationTitle) + " Version: " + ApplicationVersion());
     application_.DisabledRoot = std::string("Software\\") + ApplicationTitle + "\\Disabled\\";
     clsDisableMaximize(application_.machine.windows)

@@ -50,6 +50,17 @@ TEST_F(MainFormTest, ReadsTheAppearanceOfTheUser) {
     EXPECT_EQ(appearance.SusDisColor, 4u);
 }
 
+TEST_F(MainFormTest, KnowsItsFolderThoughOnceTheSystemDoesNotTellIt) {
+    for (int told = 0; told < 3; ++told) {
+        TestProgram started;
+        started.AddInstalledFile("Settings.ini").Content("[Main]\r\nFontBold=0\r\n");
+        for (int i = 0; i < told; ++i) started.machine.FailNext("GetModuleFileNameA", 0);
+        started.machine.FailNext("GetModuleFileNameA");
+        started.Start();
+        EXPECT_EQ(started.application.appearance.FontBold, 0) << told;
+    }
+}
+
 TEST_F(MainFormTest, EndsTheProgramWhenFontBoldIsNoNumber) {
     Settings("[Main]\r\nFontBold=bold\r\n");
     program.Start();
