@@ -22,7 +22,8 @@ class FormSet {
     FormSet& operator=(const FormSet&) = delete;
 
     void Define(std::string name, Factory make);
-    // Of all forms that are defined, in that order.
+    // Of all forms that are defined, in that order: whoever has to go through every form, as the
+    // tests of all commands do, needs no list of its own.
     std::vector<std::string> Names() const;
     // Null when no form of that name is loaded.
     Form* Loaded(std::string_view name) const;

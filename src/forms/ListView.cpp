@@ -176,12 +176,12 @@ void ListView::Count(const ListRow& row, bool in) {
     const auto count = [in](std::size_t& number, bool isSo) {
         if (isSo) in ? ++number : --number;
     };
-    const ItemMark mark = row.mark_;
+    const ItemMark mark = row.Mark();
     const bool both = mark == ItemMark::SuspiciousDisabled;
     count(counts_.rows, true);
     count(counts_.suspicious, both || mark == ItemMark::Suspicious);
     count(counts_.disabled, both || mark == ItemMark::Disabled);
-    count(counts_.ticked, row.checked_);
+    count(counts_.ticked, row.Checked());
 }
 
 }  // namespace velkarix
