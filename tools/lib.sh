@@ -29,6 +29,22 @@ logged() {
     }
 }
 
+# Groups of end-to-end tests that have commands of their own: the tour (./run), long use (tools/soak), and the
+# installer, which has to be made first (./test setup).
+# shellcheck disable=SC2034  # read by the scripts that source this file
+readonly e2e_apart='^(Tour|Soak)$|Package'
+
+# The names of the groups of end-to-end tests.
+e2e_groups() {
+    cat "$root"/tests/e2e/*_test.cpp | sed -nE 's/^TEST(_F|_P)?\((\w+),.*/\2/p' | LC_ALL=C sort -u
+}
+
+# The groups that grep finds with these arguments, as --gtest_filter takes them, also where they are run for each of
+# some values.
+e2e_groups_filter() {
+    e2e_groups | grep "$@" | sed 's|.*|&.*:*/&.*|' | paste -s -d :
+}
+
 # Sets and exports what a 32-bit Wine needs; the word to start it with is in $wine.
 # The project's own Wine is preferred once it is unpacked, else the machine's is used.
 # shellcheck disable=SC2034  # wine is for the caller
