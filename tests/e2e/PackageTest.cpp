@@ -1,6 +1,7 @@
 #include "PackageTest.h"
 
 #include <windows.h>
+#include <psapi.h>
 #include <shlobj.h>
 #include <tlhelp32.h>
 
@@ -21,9 +22,32 @@ namespace {
 const std::string EntryKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Velkarix";
 constexpr int MessageTextId = 65535;
 
-// The uninstaller itself, or its copy in another folder, which does the work.
-bool IsUninstaller(const std::string& name) {
-    return name == "Uninstall.exe" || name == "Un.exe";
+// Where all of these tests install to.
+std::string Place() {
+    return ScratchFolder() + "\\Tools, old";
+}
+
+// The full path of a process's program, in lower case; empty when the system doesn't tell.
+std::string PathOf(DWORD id) {
+    char path[MAX_PATH] = "";
+    const HANDLE process = OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, id);
+    if (process == nullptr) return {};
+    GetModuleFileNameExA(process, nullptr, path, sizeof path);
+    CloseHandle(process);
+    return CharLowerA(path);
+}
+
+// An uninstaller in the folder of these tests, or the copy of itself that does the work: it makes
+// one in a folder of its own below that of temporary files.
+bool IsUninstaller(const std::string& path) {
+    char temporary[MAX_PATH] = "";
+    GetTempPathA(sizeof temporary, temporary);
+    const std::string place = Place() + "\\";
+    const std::string copies = std::string(temporary) + "~nsu";
+    const auto isBelow = [&path](std::string folder) {
+        return path.starts_with(CharLowerA(folder.data()));
+    };
+    return (isBelow(place) && path.ends_with("\\uninstall.exe")) || isBelow(copies);
 }
 
 std::vector<DWORD> Uninstallers() {
@@ -33,7 +57,7 @@ std::vector<DWORD> Uninstallers() {
     entry.dwSize = sizeof entry;
     for (BOOL more = Process32First(snapshot, &entry); more;
          more = Process32Next(snapshot, &entry)) {
-        if (IsUninstaller(entry.szExeFile)) ids.push_back(entry.th32ProcessID);
+        if (IsUninstaller(PathOf(entry.th32ProcessID))) ids.push_back(entry.th32ProcessID);
     }
     CloseHandle(snapshot);
     return ids;
@@ -99,7 +123,7 @@ FolderFiles ReadFolder(const std::string& folder) {
 
 PackageTest::PackageTest() {
     static int count = 0;
-    folder_ = ScratchFolder() + "\\Tools, old\\" + std::to_string(++count);
+    folder_ = Place() + "\\" + std::to_string(++count);
     DeleteTree(HKEY_LOCAL_MACHINE, EntryKey);
     Remove(MenuFolder());
     for (const HKEY hive : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER, HKEY_CLASSES_ROOT}) {
@@ -114,7 +138,7 @@ PackageTest::~PackageTest() {
     for (const auto& [hive, tree] : held_) RestoreTree(hive, HoldingKey, tree);
     DeleteTree(HKEY_LOCAL_MACHINE, EntryKey);
     Remove(MenuFolder());
-    Remove(ScratchFolder() + "\\Tools, old");
+    Remove(Place());
 }
 
 bool PackageTest::Exists(const std::string& name) const {
