@@ -230,6 +230,8 @@ SectionEnd
 Section /o "un.Settings and lists" SectionUnSettings
     Delete $INSTDIR\Settings.ini
     Delete $INSTDIR\SafeProcess.vkl
+    ; What a write that broke off has left beside it, which the program would take for the newer one.
+    Delete $INSTDIR\SafeProcess.vkl.new
     Delete $INSTDIR\SystemProcess.vkl
     Delete $INSTDIR\SusProcess.vkl
     Delete $INSTDIR\SusCLSID.vkl
@@ -239,15 +241,60 @@ Section /o "un.Settings and lists" SectionUnSettings
     Delete $INSTDIR\version.ini
 SectionEnd
 
+; Whether a file in the backup folder was put there by the program: its name begins with the moment that it was kept
+; at, in six numbers, and ends as that of a copy or a record, or goes on with an underline and a name.
+; In: the name in $1. Out: $2, 1 if so, else 0.
+Function un.IsBackup
+    StrCpy $2 0
+    StrCpy $3 0 ; where in the name
+    ${For} $4 1 6
+        StrCpy $5 0 ; digits of that number
+        ${Do}
+            StrCpy $6 $1 1 $3
+            IntOp $7 $6 + 0
+            ${If} $6 != $7 ; no digit
+                ${Break}
+            ${EndIf}
+            IntOp $5 $5 + 1
+            IntOp $3 $3 + 1
+        ${Loop}
+        ${If} $5 == 0
+            Return
+        ${EndIf}
+        ${If} $4 < 6
+            ${If} $6 != "_"
+                Return
+            ${EndIf}
+            IntOp $3 $3 + 1
+        ${EndIf}
+    ${Next}
+    StrCpy $6 $1 "" $3
+    StrCpy $7 $6 1
+    ${If} $6 == ".bup"
+    ${OrIf} $6 == ".prc"
+    ${OrIf} $7 == "_"
+        StrCpy $2 1
+    ${EndIf}
+FunctionEnd
+
+Function un.DeleteBackups
+    FindFirst $0 $1 $INSTDIR\backup\*.*
+    ${DoWhile} $1 != ""
+        Call un.IsBackup
+        ${If} $2 = 1
+            Delete $INSTDIR\backup\$1
+        ${EndIf}
+        FindNext $0 $1
+    ${Loop}
+    FindClose $0
+FunctionEnd
+
 Section /o "un.Backups" SectionUnBackups
     ${If} ${FileExists} $INSTDIR\backup\*.*
         MessageBox MB_YESNO|MB_ICONEXCLAMATION|MB_DEFBUTTON2 \
             "Remove the backups, too? They are the only copies of what was deleted with Velkarix, and can't be brought back." \
             /SD IDNO IDNO kept
-        Delete $INSTDIR\backup\*.bup
-        Delete $INSTDIR\backup\*.prc
-        Delete $INSTDIR\backup\*.reg
-        Delete $INSTDIR\backup\*.lnk
+        Call un.DeleteBackups
         kept:
     ${EndIf}
 SectionEnd

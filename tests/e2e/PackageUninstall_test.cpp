@@ -12,11 +12,11 @@ namespace {
 
 constexpr int BoxBeforeLabel = 10;  // the middle of the box that is ticked, in pixels
 
+// What the program keeps in the folder of backups begins with six numbers of the date and the time.
+const std::string Kept = "backup\\6_1_153_12_0_0";
+
 class PackageUninstall : public PackageTest {
   protected:
-    static void Hold(HKEY hive, const std::string& list, const std::string& name) {
-        WriteValue(hive, HoldingKey + "\\Disabled\\" + list, name, {REG_SZ, {'a', 0}});
-    }
     // Ticks these of what can be removed, and goes on.
     static void UninstallStepByStep(const std::vector<std::string>& parts) {
         const Window confirm = Page("Uninstall Velkarix");
@@ -67,57 +67,10 @@ TEST_F(EverySystemPackageUninstall, LeavesWhatIsTheUsersAndNothingElse) {
     EXPECT_FALSE(Entry());
 }
 
-TEST_F(EverySystemPackageUninstall, LeavesWhatIsSwitchedOffWhereItIs) {
-    InstallHere();
-    Hold(HKEY_LOCAL_MACHINE, "Run", "Mine");
-    Hold(HKEY_CURRENT_USER, "Menu", "");  // the value without a name
-    Hold(HKEY_CURRENT_USER, "BHO\\{0B100002-52C4-4D18-9F3A-6E1C2A7750B0}", "");
-    const auto machine = ReadTree(HKEY_LOCAL_MACHINE, HoldingKey);
-    const auto user = ReadTree(HKEY_CURRENT_USER, HoldingKey);
-    Uninstall(Folder());
-    EXPECT_EQ(ReadTree(HKEY_LOCAL_MACHINE, HoldingKey), machine);
-    EXPECT_EQ(ReadTree(HKEY_CURRENT_USER, HoldingKey), user);
-}
-
-TEST_F(PackageUninstall, LeavesNoEmptyPlacesForWhatIsSwitchedOff) {
-    InstallHere();
-    for (const char* list : {"Run", "RunOnce", "Toolbar"}) {
-        Hold(HKEY_LOCAL_MACHINE, list, "Mine");
-        DeleteValue(HKEY_LOCAL_MACHINE, HoldingKey + "\\Disabled\\" + list, "Mine");
-    }
-    ASSERT_TRUE(ReadTree(HKEY_LOCAL_MACHINE, HoldingKey));
-    Uninstall(Folder());
-    EXPECT_FALSE(ReadTree(HKEY_LOCAL_MACHINE, HoldingKey));
-}
-
-TEST_F(PackageUninstall, WarnsOfWhatIsStillSwitchedOff) {
-    InstallHere();
-    Hold(HKEY_LOCAL_MACHINE, "Run", "Mine");
-    StartUninstaller(Folder());
-    const Window question = Question();
-    ASSERT_TRUE(question);
-    EXPECT_NE(MessageText(question).find("still switched off"), std::string::npos);
-    ASSERT_TRUE(Answer(question, IDCANCEL));
-    ASSERT_TRUE(WaitUntil(UninstallerHasEnded));
-    EXPECT_TRUE(Exists("Velkarix.exe"));
-    EXPECT_TRUE(Entry());
-}
-
-TEST_F(PackageUninstall, WarnsOfShortcutsThatAreStillSwitchedOff) {
-    InstallHere();
-    Write("DCUStartup\\Mine.lnk", "link");
-    StartUninstaller(Folder());
-    const Window question = Question();
-    ASSERT_TRUE(question);
-    ASSERT_TRUE(Answer(question, IDCANCEL));
-    ASSERT_TRUE(WaitUntil(UninstallerHasEnded));
-    EXPECT_TRUE(Exists("Velkarix.exe"));
-}
-
 TEST_F(PackageUninstall, AsksBeforeItRemovesBackups) {
     InstallHere();
-    Write("backup\\a.bup", "copy");
-    Write("backup\\a.prc", "record");
+    Write(Kept + ".bup", "copy");
+    Write(Kept + ".prc", "record");
     StartUninstaller(Folder());
     UninstallStepByStep({"Backups"});
     const Window question = Question();
@@ -125,17 +78,20 @@ TEST_F(PackageUninstall, AsksBeforeItRemovesBackups) {
     EXPECT_NE(MessageText(question).find("only copies"), std::string::npos);
     ASSERT_TRUE(Answer(question, IDNO));
     Close();
-    EXPECT_EQ(Files(), (FolderFiles{{"backup\\a.bup", "copy"}, {"backup\\a.prc", "record"}}));
+    EXPECT_EQ(Files(), (FolderFiles{{Kept + ".bup", "copy"}, {Kept + ".prc", "record"}}));
 }
 
 TEST_F(PackageUninstall, RemovesBackupsAndSettingsWhenItIsToldTo) {
     InstallHere();
-    for (const char* name : {"a.bup", "a.prc", "b.reg", "c.lnk"}) {
-        Write(std::string("backup\\") + name, "copy");
+    // A copy, its record, a registry file, a shortcut, and files that a restored one replaced.
+    for (const char* rest :
+         {".bup", ".prc", "_Run.reg", "_Mine.lnk", "_bad.exe", "_no extension"}) {
+        Write(Kept + rest, "copy");
     }
-    for (const char* name :
-         {"Settings.ini", "SafeProcess.vkl", "SystemProcess.vkl", "SusProcess.vkl", "SusCLSID.vkl",
-          "SusInstall.vkl", "MalActivex.scl", "database.ini", "version.ini"}) {
+    Write("backup\\12_31_366_23_59_59_bad.exe", "copy");
+    for (const char* name : {"Settings.ini", "SafeProcess.vkl", "SafeProcess.vkl.new",
+                             "SystemProcess.vkl", "SusProcess.vkl", "SusCLSID.vkl",
+                             "SusInstall.vkl", "MalActivex.scl", "database.ini", "version.ini"}) {
         Write(name, "text");
     }
     StartUninstaller(Folder());
@@ -150,15 +106,22 @@ TEST_F(PackageUninstall, RemovesBackupsAndSettingsWhenItIsToldTo) {
 
 TEST_F(PackageUninstall, RemovesNoFileInTheBackupFolderThatIsNoBackup) {
     InstallHere();
-    Write("backup\\a.bup", "copy");
-    Write("backup\\Notes of mine.txt", "mine");
+    FolderFiles mine;
+    for (const char* name :
+         {"Notes of mine.txt", "Mine.reg", "Mine.bup", "6_1_153_12_0_bad.exe",
+          "6_1_153_12_0_0bad.exe", "6_1_153_12_0_0", "6_1_153_12_0_.bup", "6_1_153_12_0_x_bad.exe",
+          "_6_1_153_12_0_0_bad.exe", "6_1_153_12_0_0.txt", "2004-06-01_bad.exe"}) {
+        mine[std::string("backup\\") + name] = "mine";
+    }
+    for (const auto& [name, bytes] : mine) Write(name, bytes);
+    Write(Kept + ".bup", "copy");
     StartUninstaller(Folder());
     UninstallStepByStep({"Backups"});
     const Window question = Question();
     ASSERT_TRUE(question);
     ASSERT_TRUE(Answer(question, IDYES));
     Close();
-    EXPECT_EQ(Files(), (FolderFiles{{"backup\\Notes of mine.txt", "mine"}}));
+    EXPECT_EQ(Files(), mine);
 }
 
 TEST_F(PackageUninstall, LeavesTheEntryOfACopyInAnotherFolder) {
