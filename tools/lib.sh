@@ -11,6 +11,11 @@ windows_build=${VELKARIX_BUILD:-$root/build/windows-x86}
 jobs=${VELKARIX_JOBS:-$(nproc)}
 export CMAKE_BUILD_PARALLEL_LEVEL=$jobs
 
+# "1.0.0" of the project is "1.0" to people.
+full_version=$(sed -nE 's/^project\(.* VERSION ([0-9]+\.[0-9]+\.[0-9]+).*/\1/p' "$root/CMakeLists.txt")
+# shellcheck disable=SC2034  # read by the scripts that source this file
+short_version=${full_version%.*}
+
 fail() {
     echo "${0##*/}: $*" >&2
     exit 1

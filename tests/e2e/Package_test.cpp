@@ -4,6 +4,7 @@
 #include "PackageTest.h"
 #include "Program.h"
 #include "Screen.h"
+#include "Setup.h"
 #include "Wait.h"
 
 namespace velkarix::e2e {
@@ -27,7 +28,7 @@ TEST_F(EverySystemPackage, LaysDownWhatThePortableFormHoldsAndAnUninstaller) {
 TEST_F(EverySystemPackage, DeclaresTheProgramAsInstalled) {
     InstallHere();
     EXPECT_EQ(EntryText("DisplayName"), "Velkarix");
-    EXPECT_EQ(EntryText("DisplayVersion"), "1.0");
+    EXPECT_EQ(EntryText("DisplayVersion"), Environment("VELKARIX_VERSION"));
     EXPECT_EQ(EntryText("Publisher"), "Velkarix");
     EXPECT_EQ(EntryText("InstallLocation"), Folder());
     EXPECT_EQ(EntryText("DisplayIcon"), Path("Velkarix.exe") + ",0");
