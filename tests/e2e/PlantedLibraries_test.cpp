@@ -20,9 +20,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// What the program looks up, but for two. Wine's own user32 needs a version.dll and so loads what
-// lies beside any program: that the program doesn't use it is seen by the facts of files. And of
-// kernel32 there is but one.
+// What the program looks up, as tools/check-source compares, but for version.dll; and others that
+// those may load in turn. Wine's own user32 needs a version.dll and so loads what lies beside any
+// program: that the program doesn't use it is seen by the facts of files.
 const std::vector<std::string> Libraries = {
     "psapi.dll",    "shlwapi.dll",  "comctl32.dll", "comdlg32.dll", "ole32.dll",
     "oleaut32.dll", "shell32.dll",  "wininet.dll",  "urlmon.dll",   "crypt32.dll",
