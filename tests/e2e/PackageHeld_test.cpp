@@ -87,6 +87,16 @@ TEST_P(PackageHeldIn, NoEmptyPlaceIsLeft) {
     EXPECT_FALSE(ReadTree(Key(), HoldingKey));
 }
 
+TEST_P(PackageHeldIn, AnEmptyListIsNoReasonToWarn) {
+    InstallHere();
+    HoldNothing(Key(), "Run");
+    StartUninstaller(Folder());
+    const Window confirm = Page("Uninstall Velkarix");
+    ASSERT_TRUE(confirm);
+    ASSERT_TRUE(Press(confirm, IDCANCEL));
+    ASSERT_TRUE(WaitUntil(UninstallerHasEnded));
+}
+
 // What is held stands behind a list that holds nothing.
 
 TEST_P(PackageHeldIn, AValueIsWarnedOf) {
