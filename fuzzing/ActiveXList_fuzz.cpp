@@ -50,16 +50,9 @@ Names KeysByTheRules(const std::string& file, bool isWhole) {
     return keys;
 }
 
-// One call of the registry takes no longer path.
-bool CanBeCalled(const std::string& key) {
-    constexpr std::size_t LongestCall = 260;
-    return key.size() <= LongestCall;
-}
-
 // Sets them; up to where a name is too long for the registry its path is made.
 void SetByTheRules(MemoryHives& hives, const Names& keys) {
     for (const std::string& key : keys) {
-        if (!CanBeCalled(key)) continue;
         std::size_t made = 0;
         bool isWhole = true;
         for (const std::size_t end : LevelEnds(key)) {
@@ -77,7 +70,7 @@ void SetByTheRules(MemoryHives& hives, const Names& keys) {
 void TakeByTheRules(MemoryHives& hives, const Names& listed, bool isOldSystem) {
     Names keys;
     for (const std::string& key : listed) {
-        if (CanBeCalled(key) && hives.HasKey(Machines, key) && !HasControls(key) &&
+        if (hives.HasKey(Machines, key) && !HasControls(key) &&
             CanBeWritten(hives, Machines, key)) {
             keys.push_back(key);
         }

@@ -1,15 +1,21 @@
 #include "registry/OpenKey.h"
 
-#include <algorithm>
-
 #include "base/Text.h"
 
 namespace velkarix {
 
+std::string WithoutEmptyNames(std::string_view path) {
+    std::string names;
+    for (std::size_t i = 0; i < path.size(); ++i) {
+        const bool partsNothing = i + 1 == path.size() || path[i + 1] == '\\';
+        if (path[i] != '\\' || !IsCharacter(path, i) || !partsNothing) names.push_back(path[i]);
+    }
+    return names;
+}
+
 std::size_t CutOf(std::string_view path) {
     if (path.size() <= LongestPath) return std::string_view::npos;
-    // Behind the last byte there is nothing, which would name the key above it.
-    for (std::size_t at = std::min(LongestPath, path.size() - 2); at > 0; --at) {
+    for (std::size_t at = LongestPath; at > 0; --at) {
         if (path[at] == '\\' && IsCharacter(path, at)) return at;
     }
     return std::string_view::npos;

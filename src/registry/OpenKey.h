@@ -15,9 +15,13 @@ namespace velkarix {
 // One call of the system takes no longer path, in bytes.
 inline constexpr std::size_t LongestPath = 259;
 
+// The path without backslashes that part nothing: the system takes several for one, and none at the
+// end for a name.
+std::string WithoutEmptyNames(std::string_view path);
+
 // The backslash that parts a path which is too long for one call: the last within reach of a call
-// that isn't the path's end, and no part of a double-byte character. npos for any other path, and
-// where there is no such backslash.
+// that is no part of a double-byte character. npos for any other path, and where there is no such
+// backslash.
 std::size_t CutOf(std::string_view path);
 
 class OpenKey {
@@ -48,14 +52,16 @@ class OpenKey {
     template <typename Call>
     ErrorCode Go(KeyHandle parent, const std::string& subKey, bool make, const Call& call) {
         if (!IsReachable(subKey)) return error::InvalidData;
-        const std::size_t cut = CutOf(subKey);
-        if (cut == std::string::npos) return call(parent, subKey);
+        if (subKey.size() <= LongestPath) return call(parent, subKey);
+        const std::string path = WithoutEmptyNames(subKey);
+        const std::size_t cut = CutOf(path);
+        if (cut == std::string::npos) return call(parent, path);
         OpenKey above(registry_);
-        const std::string beginning = subKey.substr(0, cut);
+        const std::string beginning = path.substr(0, cut);
         const ErrorCode opened =
             make ? above.Create(parent, beginning) : above.Open(parent, beginning);
         if (opened != error::Success) return opened;
-        return above.Go(above.handle_, subKey.substr(cut + 1), make, call);
+        return above.Go(above.handle_, path.substr(cut + 1), make, call);
     }
     // Closes at once. A key that isn't open is closed already.
     ErrorCode Close() {

@@ -19,6 +19,19 @@ std::string Path(std::initializer_list<std::size_t> names) {
     return path;
 }
 
+TEST(WithoutEmptyNames, LeavesOutWhatPartsNothing) {
+    EXPECT_EQ(WithoutEmptyNames("a\\\\\\b\\\\"), "a\\b");
+    EXPECT_EQ(WithoutEmptyNames("\\\\a"), "\\a");
+    EXPECT_EQ(WithoutEmptyNames("a\\b"), "a\\b");
+    EXPECT_EQ(WithoutEmptyNames("\\"), "");
+}
+
+// The backslash may be its second byte.
+TEST(WithoutEmptyNames, LeavesDoubleByteCharactersWhole) {
+    EXPECT_EQ(WithoutEmptyNames("\x83\\\\b"), "\x83\\\\b");
+    EXPECT_EQ(WithoutEmptyNames("a\x83\\"), "a\x83\\");
+}
+
 TEST(CutOf, PartsWhatIsTooLongForACallAtTheLastBackslashWithinReach) {
     EXPECT_EQ(CutOf(Path({8, 250})), NoCut);
     EXPECT_EQ(CutOf(Path({8, 251})), 8u);
@@ -26,11 +39,6 @@ TEST(CutOf, PartsWhatIsTooLongForACallAtTheLastBackslashWithinReach) {
     EXPECT_EQ(CutOf(Path({259, 1})), 259u);
     EXPECT_EQ(CutOf(Path({260, 1})), NoCut);
     EXPECT_EQ(CutOf(std::string("\\").append(300, 'a')), NoCut);
-}
-
-TEST(CutOf, LeavesNoEmptyRest) {
-    EXPECT_EQ(CutOf(Path({8, 250, 0})), 8u);
-    EXPECT_EQ(CutOf(Path({259, 0})), NoCut);
 }
 
 TEST(CutOf, PartsNoDoubleByteCharacter) {
@@ -46,12 +54,14 @@ using OpenKeyTest = RegistryFixture;
 
 // Without a name the system takes the key that it is to look in.
 TEST_F(OpenKeyTest, NeverHandsOnAnEmptyName) {
-    const std::string longKey = Path({8, 250, 0});
-    ASSERT_EQ(longKey.size(), 260u);
-    machine.AddKey(User, longKey + "Below");
-    registry.DeleteKey(User, longKey, true);
-    EXPECT_EQ(machine.Journal().ArgumentsOf("RegDeleteKeyA"), Strings{"HKCU\\" + longKey});
-    EXPECT_EQ(machine.Journal().ArgumentsOf("RegOpenKeyA"), Strings{"HKCU\\aaaaaaaa"});
+    const std::string name = Path({8, 250});
+    const std::string above = Path({8, 200});
+    machine.AddKey(User, name + "\\Below");
+    registry.DeleteKey(User, name + std::string(600, '\\'), true);
+    registry.CreateKey(User, above + std::string(300, '\\') + Path({100}));
+    EXPECT_EQ(machine.Journal().ArgumentsOf("RegDeleteKeyA"), Strings{"HKCU\\" + name});
+    EXPECT_EQ(machine.Journal().ArgumentsOf("RegCreateKeyA"),
+              (Strings{"HKCU\\" + above, "HKCU\\" + above + "\\" + Path({100})}));
 }
 
 TEST_F(OpenKeyTest, GoesOnBehindTheCut) {
