@@ -2,7 +2,7 @@
 // files, leaves every item whole somewhere, and shows it at its next start.
 #include "BrowserTest.h"
 #include "CutTest.h"
-#include "Process.h"
+#include "RegistryMerge.h"
 
 namespace velkarix::e2e {
 namespace {
@@ -72,25 +72,24 @@ TEST_P(BrowserCut, AnItemThatIsBeingEnabledIsNeverInNeitherPlace) {
 
 TEST_P(BrowserCut, AnItemThatIsBeingDeletedIsWholeOrInAFileThatBringsItBack) {
     ASSERT_TRUE(whole_);
-    CutAtEachChange(
-        {3, [&] { Place(true); },
-         [&] {
-             Open();
-             SelectItem(Item(), true);
-         },
-         [&] {
-             EXPECT_TRUE(Running().Control(Item().list.remove).Click());
-             AnswerMessage(IDYES);
-             WaitUntilDoneOrEnded([&] { return !ReadItem(Item(), true); });
-         },
-         [&](bool) {
-             for (const std::string& file : RegistryFiles()) {
-                 const std::string path = install_.Path("Backup\\" + file);
-                 EXPECT_EQ(Process("regedit.exe", "", "/S \"" + path + "\"").WaitForExit(), 0u);
-                 DeleteFileA(path.c_str());
-             }
-             EXPECT_TRUE(IsWhole(true)) << "it is lost";
-         }});
+    CutAtEachChange({3, [&] { Place(true); },
+                     [&] {
+                         Open();
+                         SelectItem(Item(), true);
+                     },
+                     [&] {
+                         EXPECT_TRUE(Running().Control(Item().list.remove).Click());
+                         AnswerMessage(IDYES);
+                         WaitUntilDoneOrEnded([&] { return !ReadItem(Item(), true); });
+                     },
+                     [&](bool) {
+                         for (const std::string& file : RegistryFiles()) {
+                             const std::string path = install_.Path("Backup\\" + file);
+                             EXPECT_TRUE(MergeRegistryFile(path)) << path;
+                             DeleteFileA(path.c_str());
+                         }
+                         EXPECT_TRUE(IsWhole(true)) << "it is lost";
+                     }});
 }
 
 // A key with subkeys, text values, and a value of bytes: each is moved in its own way.

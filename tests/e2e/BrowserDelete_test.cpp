@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "BrowserTest.h"
-#include "Process.h"
+#include "RegistryMerge.h"
 #include "Wait.h"
 
 namespace velkarix::e2e {
@@ -23,8 +23,7 @@ class BrowserDelete : public BrowserItemTest {
     }
     // Has the system's own editor put back what the file says.
     void Merge(const std::string& file) const {
-        const Process editor("regedit.exe", "", "/S \"" + install_.Path("Backup\\" + file) + "\"");
-        ASSERT_EQ(editor.WaitForExit(), 0u);
+        ASSERT_TRUE(MergeRegistryFile(install_.Path("Backup\\" + file)));
     }
     void ExpectNameOfThisList(const std::string& file) const {
         const std::string end = std::string("_") + Item().list.backup + ".reg";

@@ -6,6 +6,7 @@
 #include "ActiveXKeys.h"
 #include "CutTest.h"
 #include "Input.h"
+#include "RegistryMerge.h"
 #include "StartupTest.h"
 #include "TargetTest.h"
 #include "UtilitiesTest.h"
@@ -39,7 +40,7 @@ class StartupCut : public CutTest<StartupItemTest> {
                 const std::string bytes = ReadWholeFile(path);
                 WriteItem(Item(), true, {REG_NONE, {bytes.begin(), bytes.end()}});
             } else {
-                Process("regedit.exe", "", "/S \"" + path + "\"").WaitForExit();
+                EXPECT_TRUE(MergeRegistryFile(path)) << path;
             }
             if (IsWhole(true)) return true;
         }

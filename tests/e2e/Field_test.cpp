@@ -6,7 +6,7 @@
 #include <fstream>
 
 #include "BrowserTest.h"
-#include "Process.h"
+#include "RegistryMerge.h"
 #include "StartupTest.h"
 #include "Wait.h"
 #include "tests/NtRegistry.h"
@@ -96,9 +96,7 @@ class FieldRunKey : public StartupTest {
     // Has the system's own editor merge all that the program kept.
     void MergeKept() {
         for (const std::string& file : BackupFiles()) {
-            const Process editor("regedit.exe", "",
-                                 "/S \"" + install_.Path("Backup\\" + file) + "\"");
-            ASSERT_EQ(editor.WaitForExit(), 0u);
+            ASSERT_TRUE(MergeRegistryFile(install_.Path("Backup\\" + file)));
         }
     }
 

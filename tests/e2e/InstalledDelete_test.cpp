@@ -6,7 +6,7 @@
 #include "Input.h"
 #include "InstalledTest.h"
 #include "MenuWindow.h"
-#include "Process.h"
+#include "RegistryMerge.h"
 #include "Wait.h"
 
 namespace velkarix::e2e {
@@ -48,9 +48,7 @@ class InstalledDelete : public InstalledTest {
         const std::string stamp = files[0].substr(0, files[0].size() - end.size());
         EXPECT_EQ(stamp.find_first_not_of("0123456789_"), std::string::npos) << stamp;
         EXPECT_EQ(std::ranges::count(stamp, '_'), 5) << stamp;
-        const Process editor("regedit.exe", "",
-                             "/S \"" + install_.Path("Backup\\" + files[0]) + "\"");
-        ASSERT_EQ(editor.WaitForExit(), 0u);
+        ASSERT_TRUE(MergeRegistryFile(install_.Path("Backup\\" + files[0])));
         EXPECT_EQ(ReadEntries(), EntriesBefore());
         ASSERT_TRUE(Running().Press("cmdRefresh"));
         EXPECT_TRUE(Applications().Find(Name));
@@ -78,8 +76,7 @@ TEST_F(InstalledDelete, ThePopupsEntryDeletesWithAllThatIsInTheEntry) {
     EXPECT_FALSE(ReadEntry(Key));
     const std::vector<std::string> files = RegistryFiles();
     ASSERT_EQ(files.size(), 1u);
-    const Process editor("regedit.exe", "", "/S \"" + install_.Path("Backup\\" + files[0]) + "\"");
-    ASSERT_EQ(editor.WaitForExit(), 0u);
+    ASSERT_TRUE(MergeRegistryFile(install_.Path("Backup\\" + files[0])));
     EXPECT_EQ(ReadEntry(Key), whole);
 }
 

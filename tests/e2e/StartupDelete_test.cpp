@@ -2,7 +2,7 @@
 // back.
 #include <algorithm>
 
-#include "Process.h"
+#include "RegistryMerge.h"
 #include "StartupTest.h"
 #include "Wait.h"
 
@@ -34,8 +34,7 @@ class StartupDelete : public StartupItemTest {
     void PutBack(const std::string& file, bool enabled) const {
         const std::string path = install_.Path("Backup\\" + file);
         if (Item().hive != nullptr) {
-            const Process editor("regedit.exe", "", "/S \"" + path + "\"");
-            ASSERT_EQ(editor.WaitForExit(), 0u);
+            ASSERT_TRUE(MergeRegistryFile(path));
         } else {
             const std::string bytes = ReadWholeFile(path);
             WriteItem(Item(), enabled, {REG_NONE, {bytes.begin(), bytes.end()}});

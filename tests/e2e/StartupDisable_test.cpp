@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "Input.h"
+#include "RegistryMerge.h"
 #include "StartupTest.h"
 #include "Wait.h"
 
@@ -137,9 +138,7 @@ class StartupMoves : public StartupTest {
         const std::vector<std::string> files = BackupFiles();
         ASSERT_EQ(files.size(), 1u);
         EXPECT_TRUE(files[0].ends_with("_Startup.reg")) << files[0];
-        const Process editor("regedit.exe", "",
-                             "/S \"" + install_.Path("Backup\\" + files[0]) + "\"");
-        ASSERT_EQ(editor.WaitForExit(), 0u);
+        ASSERT_TRUE(MergeRegistryFile(install_.Path("Backup\\" + files[0])));
     }
 };
 
