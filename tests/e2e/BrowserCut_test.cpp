@@ -43,7 +43,7 @@ class BrowserCut : public CutTest<BrowserItemTest> {
 
 void BrowserCut::CutMove(bool enabled) {
     ASSERT_TRUE(whole_);
-    CutAtEachChange({4, [&] { Place(enabled); },
+    CutAtEachChange({3, [&] { Place(enabled); },
                      [&] {
                          Open();
                          TickItem(Item(), enabled);

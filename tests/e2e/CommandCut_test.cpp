@@ -124,7 +124,7 @@ class SettingsCut : public CutTest<ProgramTest> {};
 
 TEST_F(SettingsCut, TheFileIsTheOldOneOrTheNewOneOrEmptyAndTheProgramStarts) {
     const std::string old = "[Main]\r\nFirstRun=1\r\nFilter=1\r\nSusColor=7\r\n";
-    CutAtEachChange({1, [&] { install_.Write("Settings.ini", old); }, [&] { Start(); },
+    CutAtEachChange({3, [&] { install_.Write("Settings.ini", old); }, [&] { Start(); },
                      [&] { Running().Press("optFilter(0)"); },
                      [&](bool done) {
                          const bool isEmpty = install_.Read("Settings.ini").empty();
