@@ -3,6 +3,7 @@
 #include <windows.h>
 #include <tlhelp32.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -40,6 +41,7 @@ struct Change {
     const char* name;
     Changing changes;
     void* original = nullptr;
+    int turned = 0;  // imports of it that lead to its stand-in
 };
 Change changes[] = {
     {"NtCreateKey", Always},       {"NtSetValueKey", Always},
@@ -79,14 +81,13 @@ void Overwrite(void** place, void* value) {
     VirtualProtect(place, sizeof *place, protection, &protection);
 }
 
-// Turns a library's imports of the changes to the stand-ins. How many there were.
-int TurnImports(std::uint8_t* module) {
+// Turns a library's imports of the changes to the stand-ins.
+void TurnImports(std::uint8_t* module) {
     const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(module);
     const auto* headers = reinterpret_cast<const IMAGE_NT_HEADERS*>(module + dos->e_lfanew);
     const DWORD imports =
         headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress;
-    if (imports == 0) return 0;
-    int turned = 0;
+    if (imports == 0) return;
     const auto* library = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(module + imports);
     for (; library->FirstThunk != 0; ++library) {
         auto** place = reinterpret_cast<void**>(module + library->FirstThunk);
@@ -94,23 +95,20 @@ int TurnImports(std::uint8_t* module) {
             for (std::size_t i = 0; i < std::size(changes); ++i) {
                 if (*place != changes[i].original) continue;
                 Overwrite(place, standIns[i]);
-                ++turned;
+                ++changes[i].turned;
             }
         }
     }
-    return turned;
 }
 
-int TurnAllImports() {
+void TurnAllImports() {
     const HANDLE modules = CreateToolhelp32Snapshot(TH32CS_SNAPMODULE, 0);
     MODULEENTRY32 module{};
     module.dwSize = sizeof module;
-    int turned = 0;
     for (BOOL more = Module32First(modules, &module); more; more = Module32Next(modules, &module)) {
-        turned += TurnImports(module.modBaseAddr);
+        TurnImports(module.modBaseAddr);
     }
     CloseHandle(modules);
-    return turned;
 }
 
 }  // namespace
@@ -122,5 +120,6 @@ bool EndAtChange(int number) {
         change.original = reinterpret_cast<void*>(GetProcAddress(system, change.name));
     }
     changesLeft = number;
-    return TurnAllImports() >= static_cast<int>(std::size(changes));
+    TurnAllImports();
+    return std::ranges::all_of(changes, [](const Change& change) { return change.turned > 0; });
 }
