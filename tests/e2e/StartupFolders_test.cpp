@@ -1,4 +1,5 @@
 // The startup folders have other names on each system, and some systems have fewer of them.
+#include <algorithm>
 #include <filesystem>
 
 #include "Setup.h"
@@ -58,6 +59,15 @@ class EverySystemStartupFolders : public StartupTest {
     static bool Exists(const std::string& path) {
         return GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES;
     }
+    // The locations of the shortcuts that are listed as enabled.
+    std::vector<std::string> ListedShortcuts() {
+        std::vector<std::string> locations;
+        for (const RowTexts& row : Items().Rows()) {
+            if (row[2].starts_with("Startup ") && row[1] == "True") locations.push_back(row[2]);
+        }
+        std::ranges::sort(locations);
+        return locations;
+    }
     void ExpectMoves(const StartupItem& item) {
         TickItem(item, true);
         ASSERT_TRUE(Running().Press("cmdDisable"));
@@ -88,9 +98,12 @@ class EverySystemStartupFolders : public StartupTest {
 
 TEST_F(EverySystemStartupFolders, ShortcutsAreFoundWhereTheSystemKeepsThem) {
     std::vector<StartupItem> items;
-    if (names_.ofAllUsers != nullptr) items.push_back(Put("Startup LM"));
-    if (names_.ofTheUser != nullptr) items.push_back(Put("Startup CU"));
+    std::vector<std::string> locations;
+    if (names_.ofTheUser != nullptr) locations.push_back("Startup CU");
+    if (names_.ofAllUsers != nullptr) locations.push_back("Startup LM");
+    for (const std::string& location : locations) items.push_back(Put(location));
     OpenStartup();
+    EXPECT_EQ(ListedShortcuts(), locations);
     for (const StartupItem& item : items) {
         EXPECT_TRUE(IsListed(item, true)) << item.live;
         ExpectMoves(item);
