@@ -1,6 +1,7 @@
 // Runs inside the program under test and answers what can't be seen from outside: the items of
-// its menus, how many windows, menus and icons it has, and which texts don't fit their place. Sets
-// colours and fonts, and ends the program where it is asked to.
+// its menus, how many windows, menus and icons it has, how much memory, which texts don't fit their
+// place, and whether it finds a library that was planted. Sets colours and fonts, answers the
+// dialog that asks where to save, and ends the program where it is asked to.
 #include <windows.h>
 
 #include <cstdint>
