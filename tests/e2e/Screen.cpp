@@ -1,5 +1,7 @@
 #include "Screen.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <fstream>
 
@@ -30,6 +32,33 @@ std::string AreasOf(DWORD processId) {
     return lines;
 }
 
+// The pixels of an area of the screen, as RGBQUADs, row by row from the top.
+std::vector<DWORD> Grab(const RECT& area) {
+    const int width = area.right - area.left;
+    const int height = area.bottom - area.top;
+    std::vector<DWORD> pixels(static_cast<std::size_t>(width * height));
+    const HDC screen = GetDC(nullptr);
+    const HDC memory = CreateCompatibleDC(screen);
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+    const HGDIOBJ before = SelectObject(memory, bitmap);
+    const BOOL copied = BitBlt(memory, 0, 0, width, height, screen, area.left, area.top, SRCCOPY);
+    SelectObject(memory, before);
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    const int lines = GetDIBits(memory, bitmap, 0, static_cast<UINT>(height), pixels.data(), &info,
+                                DIB_RGB_COLORS);
+    EXPECT_TRUE(width > 0 && height > 0 && bitmap != nullptr && copied && lines == height)
+        << "no picture of " << width << " x " << height << " pixels";
+    DeleteObject(bitmap);
+    DeleteDC(memory);
+    ReleaseDC(nullptr, screen);
+    return pixels;
+}
+
 }  // namespace
 
 bool SaveScreenshot(const std::string& name, DWORD processId) {
@@ -46,28 +75,7 @@ bool SaveScreenshot(const std::string& name, DWORD processId) {
         [&] { return GetFileAttributesA(request.c_str()) == INVALID_FILE_ATTRIBUTES; });
 }
 
-Capture::Capture(const RECT& area)
-    : area_(area),
-      pixels_(static_cast<std::size_t>((area.right - area.left) * (area.bottom - area.top))) {
-    const int width = area.right - area.left;
-    const int height = area.bottom - area.top;
-    const HDC screen = GetDC(nullptr);
-    const HDC memory = CreateCompatibleDC(screen);
-    const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
-    const HGDIOBJ before = SelectObject(memory, bitmap);
-    BitBlt(memory, 0, 0, width, height, screen, area.left, area.top, SRCCOPY);
-    SelectObject(memory, before);
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = width;
-    info.bmiHeader.biHeight = -height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    GetDIBits(memory, bitmap, 0, static_cast<UINT>(height), pixels_.data(), &info, DIB_RGB_COLORS);
-    DeleteObject(bitmap);
-    DeleteDC(memory);
-    ReleaseDC(nullptr, screen);
-}
+Capture::Capture(const RECT& area) : area_(area), pixels_(Grab(area)) {}
 
 DWORD Capture::At(LONG x, LONG y) const {
     const LONG width = area_.right - area_.left;
@@ -89,33 +97,10 @@ int Capture::Differing(const Capture& other, const RECT& area) const {
 }
 
 int CountPixels(const RECT& area, const std::function<bool(COLORREF)>& counts) {
-    const int width = area.right - area.left;
-    const int height = area.bottom - area.top;
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = width;
-    info.bmiHeader.biHeight = height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    const HDC screen = GetDC(nullptr);
-    const HDC memory = CreateCompatibleDC(screen);
-    void* bits = nullptr;
-    const HBITMAP bitmap = CreateDIBSection(memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    int count = 0;
-    if (bitmap != nullptr) {
-        const HGDIOBJ before = SelectObject(memory, bitmap);
-        BitBlt(memory, 0, 0, width, height, screen, area.left, area.top, SRCCOPY);
-        GdiFlush();
-        const auto* pixels = static_cast<const RGBQUAD*>(bits);
-        count = static_cast<int>(std::count_if(pixels, pixels + width * height, [&](RGBQUAD each) {
-            return counts(RGB(each.rgbRed, each.rgbGreen, each.rgbBlue));
-        }));
-        SelectObject(memory, before);
-        DeleteObject(bitmap);
-    }
-    DeleteDC(memory);
-    ReleaseDC(nullptr, screen);
-    return count;
+    return static_cast<int>(std::ranges::count_if(Grab(area), [&](DWORD pixel) {
+        // The colours of a pixel stand the other way round.
+        return counts(RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF));
+    }));
 }
 
 COLORREF TextColor(const RECT& area) {

@@ -15,7 +15,8 @@ namespace velkarix::e2e {
 // ("cmdKill 97x24+397+463"). False when there is no such folder, or nobody takes pictures.
 bool SaveScreenshot(const std::string& name, DWORD processId);
 
-// What an area of the screen shows now, to be compared with what it shows later.
+// What an area of the screen shows now, to be compared with what it shows later. Here and below
+// the test fails when the area can't be seen.
 class Capture {
   public:
     explicit Capture(const RECT& area);
