@@ -15,12 +15,17 @@ constexpr const char* Class = "{0DD0C1A5-0002}";
 struct PathCase {
     const char* name;
     std::string path;
+    // What is shown as the file's name; the folder is what stands before it. Without a backslash
+    // there is no folder.
+    std::string fileName;
     std::string file;  // that lies on the disk; empty for none
     // Whether the file is found.
     bool isThere;
     // Of what path the startup list shows the facts, where that is another: it takes what it finds
     // between a drive and an extension.
     std::optional<std::string> started = {};
+    // What is shown as the name of the file of a process, where the system cuts its path.
+    std::optional<std::string> cutName = {};
 };
 
 void PrintTo(const PathCase& path, std::ostream* stream) {
@@ -35,36 +40,41 @@ std::string Long(std::size_t size) {
     return path;
 }
 
+std::string LongName(std::size_t letters) {
+    return std::string(letters, 'f').append(".exe");
+}
+
 std::vector<PathCase> AllPaths() {
     const std::string plain = "C:\\Odd\\odd.exe";
     return {
-        {"Plain", plain, plain, true},
-        {"Of259Bytes", Long(259), Long(259), true},
-        {"Of260Bytes", Long(260), "", false},
-        {"Of1000Bytes", Long(1000), "", false},
-        {"Of40000Bytes", Long(40000), "", false},
-        {"TakenAsItStands", "\\\\?\\" + plain, plain, true, plain},
-        {"TakenAsItStandsAndGone", "\\\\?\\C:\\Odd\\gone.exe", "", false},
-        {"OfAShare", "\\\\server\\share\\odd.exe", "\\\\server\\share\\odd.exe", true},
-        {"OfAShareThatIsGone", "\\\\nobody\\share\\odd.exe", "", false},
-        {"OfNoShare", "\\\\server", "", false},
-        {"OfADrivesDevice", "\\\\.\\C:", "", false},
-        {"OfAPhysicalDevice", "\\\\.\\PhysicalDrive0", "", false},
-        {"OfNothing", "C:\\Odd\\NUL", "C:\\Odd\\other.exe", false},
-        {"OfADeviceWithAnExtension", "C:\\Odd\\con.exe", "C:\\Odd\\other.exe", false},
-        {"OfAPort", "C:\\Odd\\COM1.exe", "C:\\Odd\\other.exe", false},
-        {"OfAPrinter", "C:\\lpt9.dll", "", false},
+        {"Plain", plain, "odd.exe", plain, true},
+        {"Of259Bytes", Long(259), LongName(47), Long(259), true},
+        {"Of260Bytes", Long(260), LongName(48), "", false},
+        {"Of1000Bytes", Long(1000), LongName(23), "", false, {}, "dd"},
+        {"Of40000Bytes", Long(40000), LongName(8), "", false, {}, "dd"},
+        {"TakenAsItStands", "\\\\?\\" + plain, "odd.exe", plain, true, plain},
+        {"TakenAsItStandsAndGone", "\\\\?\\C:\\Odd\\gone.exe", "gone.exe", "", false},
+        {"OfAShare", "\\\\server\\share\\odd.exe", "odd.exe", "\\\\server\\share\\odd.exe", true},
+        {"OfAShareThatIsGone", "\\\\nobody\\share\\odd.exe", "odd.exe", "", false},
+        {"OfNoShare", "\\\\server", "server", "", false},
+        {"OfADrivesDevice", "\\\\.\\C:", "C:", "", false},
+        {"OfAPhysicalDevice", "\\\\.\\PhysicalDrive0", "PhysicalDrive0", "", false},
+        {"OfNothing", "C:\\Odd\\NUL", "NUL", "C:\\Odd\\other.exe", false},
+        {"OfADeviceWithAnExtension", "C:\\Odd\\con.exe", "con.exe", "C:\\Odd\\other.exe", false},
+        {"OfAPort", "C:\\Odd\\COM1.exe", "COM1.exe", "C:\\Odd\\other.exe", false},
+        {"OfAPrinter", "C:\\lpt9.dll", "lpt9.dll", "", false},
         // The one over which the older systems break down.
-        {"OfADeviceInADevice", "C:\\con\\con", "", false},
-        {"OfADeviceWithABlank", "C:\\Odd\\AUX .exe", "C:\\Odd\\other.exe", false},
-        {"NamedAlmostLikeADevice", "C:\\Odd\\COM10.exe", "C:\\Odd\\COM10.exe", true},
-        {"InAFolderNamedAlmostLikeADevice", "C:\\console\\a.exe", "C:\\console\\a.exe", true},
-        {"WithADotBehind", plain + ".", plain, true, plain},
-        {"WithDotsInIt", "C:\\Odd\\..\\Odd\\.\\odd.exe", plain, true},
-        {"WithSlashes", "C:/Odd/odd.exe", plain, true},
-        {"OfAPattern", "C:\\Odd\\*.exe", plain, false},
-        {"OfAStream", plain + ":stream", plain, false, plain},
-        {"OfADriveThatIsGone", "Q:\\odd.exe", "", false},
+        {"OfADeviceInADevice", "C:\\con\\con", "con", "", false},
+        {"OfADeviceWithABlank", "C:\\Odd\\AUX .exe", "AUX .exe", "C:\\Odd\\other.exe", false},
+        {"NamedAlmostLikeADevice", "C:\\Odd\\COM10.exe", "COM10.exe", "C:\\Odd\\COM10.exe", true},
+        {"InAFolderNamedAlmostLikeADevice", "C:\\console\\a.exe", "a.exe", "C:\\console\\a.exe",
+         true},
+        {"WithADotBehind", plain + ".", "odd.exe.", plain, true, plain},
+        {"WithDotsInIt", "C:\\Odd\\..\\Odd\\.\\odd.exe", "odd.exe", plain, true},
+        {"WithSlashes", "C:/Odd/odd.exe", "C:/Odd/odd.exe", plain, true},
+        {"OfAPattern", "C:\\Odd\\*.exe", "*.exe", plain, false},
+        {"OfAStream", plain + ":stream", "odd.exe:stream", plain, false, plain},
+        {"OfADriveThatIsGone", "Q:\\odd.exe", "odd.exe", "", false},
     };
 }
 
@@ -80,6 +90,11 @@ class FieldPaths : public FieldPages, public testing::WithParamInterface<PathCas
     }
     std::string FactsOf(const RowTexts& row, std::size_t size) {
         return row.at(size) + "|" + row.at(size + 2);
+    }
+    // What stands before the name.
+    static std::string FolderIn(const std::string& whole, const std::string& fileName) {
+        EXPECT_TRUE(whole.ends_with(fileName)) << whole;
+        return whole.substr(0, whole.size() - fileName.size());
     }
     const std::string& path = GetParam().path;
     const std::string& file = GetParam().file;
@@ -109,8 +124,8 @@ TEST_P(FieldPaths, OfABrowserItem) {
     Enter(rows);
     ASSERT_EQ(Rows(rows).size(), 1u);
     const RowTexts row = Rows(rows)[0];
-    // Without a folder the whole stands in both columns' place.
-    EXPECT_TRUE(row[9] + row[3] == path || row[3] == path);
+    EXPECT_EQ(row[9], FolderIn(path, GetParam().fileName));
+    EXPECT_EQ(row[3], GetParam().fileName);
     EXPECT_EQ(FactsOf(row, 4), facts);
     EXPECT_NE(ReportOf(rows).find("Size (Kb)         : " + row[4] + "\r\n"), std::string::npos);
     EXPECT_EQ(Messages(), RowTexts());
@@ -122,9 +137,9 @@ TEST_P(FieldPaths, OfAProcess) {
     Enter(ProcessRows);
     ASSERT_EQ(Rows(ProcessRows).size(), 1u);
     const RowTexts row = Rows(ProcessRows)[0];
-    const std::string shown = row[processColumn::Folder] + row[processColumn::Name];
-    EXPECT_TRUE(shown == path.substr(0, 260) || row[processColumn::Name] == path.substr(0, 260))
-        << shown;
+    const std::string shownName = GetParam().cutName.value_or(GetParam().fileName);
+    EXPECT_EQ(row[processColumn::Folder], FolderIn(path.substr(0, 260), shownName));
+    EXPECT_EQ(row[processColumn::Name], shownName);
     EXPECT_EQ(FactsOf(row, processColumn::Size), facts);
     EXPECT_EQ(Messages(), RowTexts());
 }
@@ -143,8 +158,9 @@ TEST_P(FieldPaths, OfAnApplicationsIcon) {
     EXPECT_EQ(Messages(), RowTexts());
 }
 
-TEST_P(FieldPaths, AreNeverOpenedWhereTheyAreDevices) {
-    if (!MemoryDisk::IsDevice(path) && path.find("con\\con") == std::string::npos) return;
+class FieldDevicePaths : public FieldPaths {};
+
+TEST_P(FieldDevicePaths, AreNeverOpened) {
     Machine().SetValue(Hive::LocalMachine, LiveRun, "Odd", path);
     Machine().SetValue(Hive::ClassesRoot, std::string("CLSID\\") + Class + "\\InprocServer32", "",
                        path);
@@ -167,6 +183,17 @@ TEST_P(FieldPaths, AreNeverOpenedWhereTheyAreDevices) {
         EXPECT_EQ(call.arguments.find(path), std::string::npos) << call.name;
     }
 }
+
+std::vector<PathCase> AllDevices() {
+    std::vector<PathCase> devices = AllPaths();
+    std::erase_if(devices, [](const PathCase& each) {
+        return !MemoryDisk::IsDevice(each.path) && each.path.find("con\\con") == std::string::npos;
+    });
+    return devices;
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, FieldDevicePaths, testing::ValuesIn(AllDevices()),
+                         [](const auto& test) { return std::string(test.param.name); });
 
 INSTANTIATE_TEST_SUITE_P(Each, FieldPaths, testing::ValuesIn(AllPaths()),
                          [](const auto& test) { return std::string(test.param.name); });
