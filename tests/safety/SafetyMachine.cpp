@@ -1,6 +1,7 @@
 #include "tests/safety/SafetyMachine.h"
 
 #include <string>
+#include <tuple>
 #include <utility>
 
 #include "tests/browser/BrowserPage.h"

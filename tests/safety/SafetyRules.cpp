@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <iterator>
-#include <string_view>
 
+#include "tests/machine/CallKinds.h"
 #include "tests/machine/CaseFold.h"
 #include "tests/machine/Wildcard.h"
 
@@ -176,13 +176,14 @@ constexpr AllowedDeed AllowedDeeds[] = {
     {"frmUtilities, cmdRepairLSP, Click", "WinExec", "\"C:\\Velkarix\\Quillate.exe\"", "the tool"},
 };
 
-// The calls that change a place, and where in their arguments it is told.
-enum class PlaceIs { All, BehindTheLastComma };
-struct ChangingCall {
-    const char* name;
+// Of the calls that change something, those that change a place, and where in their arguments it
+// is told. The files that are written are told apart from the calls.
+enum class PlaceIs { All, BehindTheLastComma, ToldApart };
+struct PlaceChange {
+    const char* call;
     PlaceIs place;
 };
-constexpr ChangingCall ChangingCalls[] = {
+constexpr PlaceChange PlaceChanges[] = {
     {"RegCreateKeyA", PlaceIs::All},
     {"RegDeleteKeyA", PlaceIs::All},
     {"RegDeleteValueA", PlaceIs::All},
@@ -193,32 +194,18 @@ constexpr ChangingCall ChangingCalls[] = {
     {"DeleteFileA", PlaceIs::All},
     {"MoveFileExA", PlaceIs::All},
     {"WritePrivateProfileStringA", PlaceIs::BehindTheLastComma},
+    {"CreateFileA", PlaceIs::ToldApart},
+    {"WriteFile", PlaceIs::ToldApart},
 };
 
-// What changes nothing outside of the program itself: it reads, or it is about the program's own
-// windows, handles and rights. Files that are written are told by their opening.
-constexpr std::string_view HarmlessBeginnings[] = {
-    "Get",         "Find",           "RegOpenKey", "RegCloseKey",   "RegEnum",     "RegQuery",
-    "Path",        "ReadFile",       "Close",      "ExtractIconEx", "DrawIconEx",  "DestroyIcon",
-    "Crypt",       "VerQuery",       "Enum",       "Process32",     "CreateTool",  "OpenProcess",
-    "Expand",      "FileTime",       "FormatMes",  "VarDate",       "WideChar",    "Lookup",
-    "Make",        "Sleep",          "CreateFile", "WriteFile",     "CreateMutex", "AdjustToken",
-    "SetMenuItem", "SetWindow",      "SetParent",  "SetForeground", "SendMessage", "ShowWindow",
-    "OpenIcon",    "CreateShortcut", "FlushFile"};
-
-const ChangingCall* FindChanging(const std::string& name) {
-    const auto found = std::find_if(std::begin(ChangingCalls), std::end(ChangingCalls),
-                                    [&](const ChangingCall& each) { return name == each.name; });
-    return found == std::end(ChangingCalls) ? nullptr : found;
+const PlaceChange* FindPlaceChange(const std::string& name) {
+    const auto found = std::find_if(std::begin(PlaceChanges), std::end(PlaceChanges),
+                                    [&](const PlaceChange& each) { return name == each.call; });
+    return found == std::end(PlaceChanges) ? nullptr : found;
 }
 
-bool IsHarmless(const std::string& name) {
-    return std::any_of(std::begin(HarmlessBeginnings), std::end(HarmlessBeginnings),
-                       [&](std::string_view text) { return name.starts_with(text); });
-}
-
-std::string PlaceOf(const ChangingCall& changing, const std::string& arguments) {
-    if (changing.place == PlaceIs::All) return arguments;
+std::string PlaceOf(const PlaceChange& change, const std::string& arguments) {
+    if (change.place == PlaceIs::All) return arguments;
     return arguments.substr(arguments.rfind(", ") + 2);
 }
 
@@ -242,10 +229,12 @@ std::vector<std::string> SafetyRules::Complaints(const GivenCommand& command) {
         complaints.push_back(command.Name() + ": " + what);
     };
     for (const Call& call : command.calls) {
-        if (const ChangingCall* changing = FindChanging(call.name)) {
-            const std::string place = PlaceOf(*changing, call.arguments);
+        if (!Changes(call)) continue;
+        if (const PlaceChange* change = FindPlaceChange(call.name)) {
+            if (change->place == PlaceIs::ToldApart) continue;
+            const std::string place = PlaceOf(*change, call.arguments);
             if (!MayChange(command, place)) complain(call.name + " " + place);
-        } else if (!IsHarmless(call.name) && !MayDo(command, call)) {
+        } else if (!MayDo(command, call)) {
             complain(call.name + " " + call.arguments);
         }
     }
