@@ -75,7 +75,7 @@ class FieldPages : public testing::Test {
     // The user disables the row of the item, enables it and deletes it: at each step it lies whole
     // in one place, and what a step changed or took away is kept as it was.
     void GoOffAndOnAndAway(const FieldList& list, const FieldItem& item, const std::string& text);
-    // Nor do the same commands change anything in the registry.
+    // Neither disabling nor deleting the row changes anything in the registry.
     void ExpectUnmoved(const FieldList& list, const std::string& text);
 
     TestProgram program;
