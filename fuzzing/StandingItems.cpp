@@ -11,6 +11,7 @@
 #include "shell/BackupSet.h"
 #include "startup/StartupPlaces.h"
 #include "tests/machine/CaseFold.h"
+#include "tests/machine/MachineText.h"
 #include "tests/machine/RegistryFileMerge.h"
 
 namespace velkarix {
@@ -20,12 +21,8 @@ namespace {
 constexpr const char* DisabledRoot = "Software\\Velkarix\\Disabled\\";
 const std::string KeyMark("\0\0key", 5);
 
-// The classes are a part of the machine's hive.
-std::string PathIn(Hive hive, const std::string& key) {
-    const char* const root = hive == Hive::CurrentUser    ? "HKCU\\"
-                             : hive == Hive::LocalMachine ? "HKLM\\"
-                                                          : "HKLM\\SOFTWARE\\Classes\\";
-    return FoldCase(root + key);
+std::string FoldedPathIn(Hive hive, const std::string& key) {
+    return FoldCase(PathIn(hive, key));
 }
 
 // Each place where items are, and the one where they are held.
@@ -34,15 +31,15 @@ std::vector<std::pair<std::string, std::string>> MakeTwins() {
     for (const ItemPlaces* list : {&BHOPlaces, &ToolbarPlaces, &ButtonPlaces, &MenuPlaces,
                                    &ProtocolPlaces, &DomainPlaces, &HookPlaces}) {
         for (const ItemPlace& place : list->places) {
-            twins.emplace_back(PathIn(place.hive, place.live),
-                               PathIn(place.hive, std::string(DisabledRoot) + place.held));
+            twins.emplace_back(FoldedPathIn(place.hive, place.live),
+                               FoldedPathIn(place.hive, std::string(DisabledRoot) + place.held));
         }
     }
     for (const RunKey& key : RunKeys) {
         const std::string name = std::string("Run") + key.suffix;
         twins.emplace_back(
-            PathIn(key.hive, "Software\\Microsoft\\Windows\\CurrentVersion\\" + name),
-            PathIn(key.hive, DisabledRoot + name));
+            FoldedPathIn(key.hive, "Software\\Microsoft\\Windows\\CurrentVersion\\" + name),
+            FoldedPathIn(key.hive, DisabledRoot + name));
     }
     return twins;
 }
@@ -65,22 +62,22 @@ std::vector<std::string> TwinsOf(const std::string& path) {
 // What the browser page's views of settings write, and what they take away.
 bool IsSetting(const std::string& path) {
     static const std::string Exact[] = {
-        PathIn(Hive::LocalMachine, urlKey::Main),
-        PathIn(Hive::CurrentUser, urlKey::Main),
-        PathIn(Hive::LocalMachine, urlKey::Search),
-        PathIn(Hive::CurrentUser, urlKey::SearchURL),
-        PathIn(Hive::LocalMachine, urlKey::DefaultPrefix),
-        PathIn(Hive::LocalMachine, urlKey::Prefixes),
-        PathIn(Hive::CurrentUser,
-               "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings"),
-        PathIn(Hive::CurrentUser,
-               "Software\\Microsoft\\Windows\\CurrentVersion\\Internet "
-               "Settings\\ZoneMap\\ProtocolDefaults"),
+        FoldedPathIn(Hive::LocalMachine, urlKey::Main),
+        FoldedPathIn(Hive::CurrentUser, urlKey::Main),
+        FoldedPathIn(Hive::LocalMachine, urlKey::Search),
+        FoldedPathIn(Hive::CurrentUser, urlKey::SearchURL),
+        FoldedPathIn(Hive::LocalMachine, urlKey::DefaultPrefix),
+        FoldedPathIn(Hive::LocalMachine, urlKey::Prefixes),
+        FoldedPathIn(Hive::CurrentUser,
+                     "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings"),
+        FoldedPathIn(Hive::CurrentUser,
+                     "Software\\Microsoft\\Windows\\CurrentVersion\\Internet "
+                     "Settings\\ZoneMap\\ProtocolDefaults"),
     };
     static const std::string Trees[] = {
-        PathIn(Hive::CurrentUser, urlKey::Search),
-        PathIn(Hive::CurrentUser,
-               "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\Zones"),
+        FoldedPathIn(Hive::CurrentUser, urlKey::Search),
+        FoldedPathIn(Hive::CurrentUser,
+                     "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\Zones"),
     };
     return std::find(std::begin(Exact), std::end(Exact), path) != std::end(Exact) ||
            std::any_of(std::begin(Trees), std::end(Trees),
@@ -90,12 +87,12 @@ bool IsSetting(const std::string& path) {
 }  // namespace
 
 StandingItems::StandingItems(const MemoryMachine& machine) : values_(Collect(machine.registry)) {
-    AddFiles(*machine.disk.Find("C:\\"));
+    ForEachEntry(machine, [this](const std::string&, const MemoryEntry& entry) { AddFile(entry); });
 }
 
 void StandingItems::Collect(const MemoryHives& hives, Hive hive, const std::string& key,
                             Values& values) {
-    const std::string path = PathIn(hive, key);
+    const std::string path = FoldedPathIn(hive, key);
     values[{path, KeyMark}] = {};
     for (const std::string& name : hives.ValueNamesOf(hive, key)) {
         const auto value = hives.ValueAt(hive, key, name);
@@ -114,15 +111,12 @@ StandingItems::Values StandingItems::Collect(const MemoryHives& hives) {
     return values;
 }
 
-void StandingItems::AddFiles(const MemoryEntry& folder) {
-    for (std::size_t i = 0; const auto entry = folder.children.At(i); ++i) {
-        const std::string content(entry->content.begin(), entry->content.end());
-        for (const char* ending : {".lnk", ".exe", BackupCopyExtension}) {
-            if (entry->name.ends_with(ending)) files_.insert(content);
-        }
-        if (entry->name.ends_with(".reg")) AddKept(content);
-        AddFiles(*entry);
+void StandingItems::AddFile(const MemoryEntry& entry) {
+    const std::string content(entry.content.begin(), entry.content.end());
+    for (const char* ending : {".lnk", ".exe", BackupCopyExtension}) {
+        if (entry.name.ends_with(ending)) files_.insert(content);
     }
+    if (entry.name.ends_with(".reg")) AddKept(content);
 }
 
 // A file may hold a value several times, as it was at one time and another: each section counts.

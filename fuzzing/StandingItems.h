@@ -33,7 +33,7 @@ class StandingItems {
     static void Collect(const MemoryHives& hives, Hive hive, const std::string& key,
                         Values& values);
     static Values Collect(const MemoryHives& hives);
-    void AddFiles(const MemoryEntry& folder);
+    void AddFile(const MemoryEntry& entry);
     void AddKept(const std::string& file);
     bool Has(const Place& place, const RawValue& value) const;
     bool HasKept(const Place& place, const RawValue& value) const;

@@ -9,6 +9,7 @@
 
 #include "registry/RawValue.h"
 #include "tests/browser/ItemLists.h"
+#include "tests/machine/MachineText.h"
 #include "tests/machine/RegistryFileMerge.h"
 
 namespace velkarix {
@@ -101,11 +102,7 @@ inline std::string TextOfKey(const MemoryHives& hives, Hive hive, const std::str
 
 // Merges all kept registry files, as their user would after double clicks on them.
 inline void MergeBackups(const MemoryMachine& machine, MemoryHives& into) {
-    const auto folder = machine.disk.Find("C:\\Velkarix\\Backup");
-    if (!folder) return;
-    for (std::size_t i = 0; const auto file = folder->children.At(i); ++i) {
-        MergeRegistryFile(into, {file->content.begin(), file->content.end()});
-    }
+    for (const std::string& file : KeptFiles(machine)) MergeRegistryFile(into, file);
 }
 
 }  // namespace velkarix

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "tests/machine/MachineText.h"
 
 namespace velkarix {
 namespace {
@@ -23,24 +24,19 @@ void AddKey(const MemoryHives& hives, Hive hive, const std::string& key, const s
     }
 }
 
-void AddFiles(const MemoryEntry& entry, const std::string& path, FlatMachine& flat) {
-    if (!entry.IsFolder()) {
-        flat[path] = std::string(entry.content.begin(), entry.content.end());
-        return;
-    }
-    flat[path + "\\"] = "folder";
-    for (std::size_t i = 0; const auto child = entry.children.At(i); ++i) {
-        AddFiles(*child, path + "\\" + child->name, flat);
-    }
-}
-
 }  // namespace
 
 FlatMachine Flatten(const MemoryMachine& machine) {
     FlatMachine flat;
     AddKey(machine.registry, Hive::LocalMachine, "", "hklm\\", flat);
     AddKey(machine.registry, Hive::CurrentUser, "", "hkcu\\", flat);
-    AddFiles(*machine.disk.Find("C:\\"), "C:", flat);
+    ForEachEntry(machine, [&flat](const std::string& path, const MemoryEntry& entry) {
+        if (entry.IsFolder()) {
+            flat[path + "\\"] = "folder";
+        } else {
+            flat[path] = std::string(entry.content.begin(), entry.content.end());
+        }
+    });
     for (const ProcessId id : machine.processes.Running()) {
         flat["process " + std::to_string(id)] = "runs";
     }
@@ -68,10 +64,7 @@ std::string FindDifference(const FlatMachine& before, const FlatMachine& now,
 }
 
 std::string PlaceOf(Hive hive, const std::string& key) {
-    const char* const root = hive == Hive::CurrentUser    ? "hkcu\\"
-                             : hive == Hive::LocalMachine ? "hklm\\"
-                                                          : "hklm\\software\\classes\\";
-    return root + ToLower(key) + "\\";
+    return ToLower(PathIn(hive, key)) + "\\";
 }
 
 }  // namespace velkarix

@@ -1,9 +1,12 @@
 // The options page: its settings, the backups of deleted files, the full report.
+#include <algorithm>
+
 #include "options/BackupColumns.h"
 #include "options/FullReportAreas.h"
 #include "tests/faults/CommandList.h"
 #include "tests/faults/FaultTable.h"
 #include "tests/faults/PlainScenes.h"
+#include "tests/machine/MachineText.h"
 
 namespace velkarix {
 namespace {
@@ -46,18 +49,10 @@ FaultScene SettingScene(const Setting& setting) {
 
 // ---- Backups
 
-std::string ContentOf(const MemoryMachine& machine, const std::string& path) {
-    return machine.disk.ContentOf(path).value_or("(no file)");
-}
-
 // Whether any file of the backups holds that.
 bool IsKept(const MemoryMachine& machine, const std::string& content) {
-    const auto folder = machine.disk.Find("C:\\Velkarix\\Backup");
-    for (std::size_t i = 0; folder && folder->children.At(i); ++i) {
-        const Bytes& bytes = folder->children.At(i)->content;
-        if (std::string(bytes.begin(), bytes.end()) == content) return true;
-    }
-    return false;
+    const std::vector<std::string> files = KeptFiles(machine);
+    return std::find(files.begin(), files.end(), content) != files.end();
 }
 
 // `present` stands where the program was, if there is something.

@@ -2,6 +2,7 @@
 #include "tests/faults/CommandList.h"
 #include "tests/faults/FaultTable.h"
 #include "tests/faults/PlainScenes.h"
+#include "tests/machine/MachineText.h"
 
 namespace velkarix {
 namespace {
@@ -27,10 +28,6 @@ void Give(MemoryMachine& machine, const std::string& page,
         SelectForCommand(program, command);
         GiveCommand(program, command);
     }
-}
-
-std::string ContentOf(const MemoryMachine& machine, const std::string& path) {
-    return machine.disk.ContentOf(path).value_or("(no file)");
 }
 
 // The row that names it in that column.

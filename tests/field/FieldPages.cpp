@@ -1,5 +1,7 @@
 #include "tests/field/FieldPages.h"
 
+#include "tests/machine/MachineText.h"
+
 namespace velkarix {
 
 namespace {
@@ -69,11 +71,9 @@ std::string FieldPages::Standing(const FieldItem& item, bool live) {
 }
 
 bool FieldPages::IsKept(const FieldItem& item, const std::string& standing) {
-    const auto folder = Machine().disk.Find("C:\\Velkarix\\Backup");
-    for (std::size_t i = 0; folder && folder->children.At(i); ++i) {
-        const auto file = folder->children.At(i);
+    for (const std::string& file : KeptFiles(Machine())) {
         MemoryHives hives;
-        MergeRegistryFile(hives, {file->content.begin(), file->content.end()});
+        MergeRegistryFile(hives, file);
         const std::string merged = item.isValue
                                        ? TextOfValue(hives, item.hive, item.live, item.name)
                                        : TextOfKey(hives, item.hive, item.live + "\\" + item.name);

@@ -3,12 +3,10 @@
 namespace velkarix {
 namespace {
 
-void Append(const std::string& folder, const MemoryEntry& entry, std::string& text) {
-    const std::string path = folder + entry.name;
-    text += path + " " + std::to_string(entry.attributes) + " ";
-    text.append(entry.content.begin(), entry.content.end()).append("\n");
+void Visit(const std::string& path, const MemoryEntry& entry, const EntryVisitor& visit) {
+    visit(path, entry);
     for (std::size_t i = 0; const auto child = entry.children.At(i); ++i) {
-        Append(path + "\\", *child, text);
+        Visit(path + "\\" + child->name, *child, visit);
     }
 }
 
@@ -22,7 +20,10 @@ std::string RegistryText(const MemoryMachine& machine) {
 
 std::string DiskText(const MemoryMachine& machine) {
     std::string text;
-    if (const auto drive = machine.disk.Find("C:\\")) Append("", *drive, text);
+    ForEachEntry(machine, [&text](const std::string& path, const MemoryEntry& entry) {
+        text += path + " " + std::to_string(entry.attributes) + " ";
+        text.append(entry.content.begin(), entry.content.end()).append("\n");
+    });
     return text;
 }
 
@@ -33,6 +34,31 @@ std::string MachineText(const MemoryMachine& machine) {
     for (const Launch& launch : machine.shell.Launched()) text += launch.commandLine + " started\n";
     for (const ShellOpening& each : machine.shell.Opened()) text += each.file + " opened\n";
     return text;
+}
+
+std::string PathIn(Hive hive, const std::string& key) {
+    const char* const root = hive == Hive::CurrentUser    ? "HKCU\\"
+                             : hive == Hive::LocalMachine ? "HKLM\\"
+                                                          : "HKLM\\SOFTWARE\\Classes\\";
+    return root + key;
+}
+
+void ForEachEntry(const MemoryMachine& machine, const EntryVisitor& visit) {
+    if (const auto drive = machine.disk.Find("C:\\")) Visit("C:", *drive, visit);
+}
+
+std::string ContentOf(const MemoryMachine& machine, const std::string& path) {
+    return machine.disk.ContentOf(path).value_or("(no file)");
+}
+
+std::vector<std::string> KeptFiles(const MemoryMachine& machine) {
+    std::vector<std::string> contents;
+    const auto folder = machine.disk.Find("C:\\Velkarix\\Backup");
+    for (std::size_t i = 0; folder && folder->children.At(i); ++i) {
+        const Bytes& bytes = folder->children.At(i)->content;
+        contents.emplace_back(bytes.begin(), bytes.end());
+    }
+    return contents;
 }
 
 }  // namespace velkarix
