@@ -107,15 +107,16 @@ class FieldNames : public FieldPages, public testing::WithParamInterface<Combina
     }
     static std::string FileOf(const std::string& word) { return "C:\\" + word + "\\facts.exe"; }
 
-    // An item that shows the facts of that word wherever it can be asked for them.
-    void Put(const std::u16string& item, const std::string& word) {
+    // An item that shows the facts of that word wherever it can be asked for them. What it is found
+    // by in the registry, whatever its name: the value's name there, or the key's path.
+    std::string Put(const std::u16string& item, const std::string& word) {
         std::string path = Registry().AddNamedKey(Hive::ClassesRoot, "CLSID", item);
         Machine().SetValue(Hive::ClassesRoot, path + "\\InprocServer32", "", FileOf(word));
         if (place.values) {
             const std::string command = FileOf(word) + '\0';
             Registry().SetNamedValue(place.hive, place.live, item, registryType::Sz,
                                      Bytes(command.begin(), command.end()));
-            return;
+            return Registry().ValueNamesOf(place.hive, place.live).back();
         }
         path = Registry().AddNamedKey(place.hive, place.live, item);
         for (const char* value : {"", "Script", "DisplayName", "UninstallString"}) {
@@ -125,6 +126,12 @@ class FieldNames : public FieldPages, public testing::WithParamInterface<Combina
                            FileOf(word));
         Machine().SetValue(place.hive, path, "CLSID", word);
         Machine().SetDword(place.hive, path, "*", word == "own" ? 11 : word == "other" ? 12 : 13);
+        return path;
+    }
+    // All that lies there.
+    std::string AllOf(const std::string& stored) {
+        return place.values ? TextOfValue(Registry(), place.hive, place.live, stored)
+                            : TextOfKey(Registry(), place.hive, stored);
     }
     // The names of the rows, each with the word whose facts it shows.
     RowTexts Shown() {
@@ -174,6 +181,14 @@ class FieldNames : public FieldPages, public testing::WithParamInterface<Combina
         return expected;
     }
 
+    // Whether the list is to show a row under the item's name, its own or its namesake's.
+    bool ExpectsRow() {
+        const RowTexts expected = Expected();
+        return std::any_of(expected.begin(), expected.end(), [this](const std::string& row) {
+            return row.starts_with(name.listed + " =");
+        });
+    }
+
     const NameCase& name = std::get<0>(GetParam());
     const NamePlace& place = std::get<1>(GetParam());
 };
@@ -188,17 +203,25 @@ TEST_P(FieldNames, ShowNoFactsButTheirOwn) {
 }
 
 TEST_P(FieldNames, AreReachedByTheirOwnRowAlone) {
-    Put(name.item, "own");
+    const std::string own = Put(name.item, "own");
+    const std::string before = AllOf(own);
+    ASSERT_NE(before, "");
+    const bool isNamesakes = name.listed == name.namesake;
     if (!name.namesake.empty()) Put(Wide(name.namesake), "other");
     Enter(place.rows);
     const bool isApplication = place.rows.disable == nullptr;
-    const std::string text =
-        isApplication ? FileOf("own") : std::string(place.textPrefix) + name.listed;
-    if (RowOf(place.rows, text) == nullptr) return;
+    const std::string text = isApplication ? FileOf(isNamesakes ? "other" : "own")
+                                           : std::string(place.textPrefix) + name.listed;
+    ASSERT_EQ(RowOf(place.rows, text) != nullptr, ExpectsRow());
+    if (!ExpectsRow()) return;
+    const FieldItem item = {place.hive, place.live, place.held, name.listed, place.values};
     if (name.isReachable) {
-        GoOffAndOnAndAway(place.rows,
-                          {place.hive, place.live, place.held, name.listed, place.values}, text);
-    } else if (name.listed != name.namesake) {
+        GoOffAndOnAndAway(place.rows, item, text);
+        EXPECT_EQ(AllOf(own), "");
+    } else if (isNamesakes) {
+        GoAway(place.rows, item, text);
+        EXPECT_EQ(AllOf(own), before);
+    } else {
         ExpectUnmoved(place.rows, text);
     }
 }

@@ -128,6 +128,14 @@ void FieldPages::GoOffAndOnAndAway(const FieldList& list, const FieldItem& item,
     EXPECT_EQ(Messages().size(), 1u);  // the question
 }
 
+void FieldPages::GoAway(const FieldList& list, const FieldItem& item, const std::string& text) {
+    for (const char* command : {list.disable, list.remove}) {
+        if (command == nullptr) continue;
+        Give(list, command, RowOf(list, text));
+        EXPECT_EQ(Standing(item, true), "");
+    }
+}
+
 void FieldPages::ExpectUnmoved(const FieldList& list, const std::string& text) {
     const std::string before = StateOfRegistry();
     for (const char* command : {list.disable, list.remove}) {

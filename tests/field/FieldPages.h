@@ -75,6 +75,9 @@ class FieldPages : public testing::Test {
     // The user disables the row of the item, enables it and deletes it: at each step it lies whole
     // in one place, and what a step changed or took away is kept as it was.
     void GoOffAndOnAndAway(const FieldList& list, const FieldItem& item, const std::string& text);
+    // The item leaves its live place when the user disables and deletes rows of that text, of which
+    // another item may have one too.
+    void GoAway(const FieldList& list, const FieldItem& item, const std::string& text);
     // Neither disabling nor deleting the row changes anything in the registry.
     void ExpectUnmoved(const FieldList& list, const std::string& text);
 
