@@ -50,8 +50,9 @@ class Soak : public StartupTest {
         const MemoryUse before = MeasureMemory(Running());
         ASSERT_GT(before.blocks, 0u);
         for (int i = 0; i < rounds && !HasFailure(); ++i) round();
+        const ObjectCounts now = RestingObjects(Running());
         const MemoryUse after = MeasureMemory(Running());
-        Print(what, rounds, objects, before, after);
+        Print(what, rounds, objects, now, before, after);
         // What Wine keeps for drawing isn't counted to the last object; one lost in each round is.
         objects.gdi += static_cast<DWORD>(rounds / 2);
         ExpectNoMoreObjects(Running(), objects);
@@ -76,9 +77,8 @@ class Soak : public StartupTest {
                SendMessageTimeoutA(button.Handle(), BM_CLICK, 0, 0, SMTO_NORMAL, LongPatience,
                                    &result) != 0;
     }
-    void Print(const char* what, int rounds, const ObjectCounts& objects, const MemoryUse& before,
-               const MemoryUse& after) {
-        const ObjectCounts now = RestingObjects(Running());
+    static void Print(const char* what, int rounds, const ObjectCounts& objects,
+                      const ObjectCounts& now, const MemoryUse& before, const MemoryUse& after) {
         std::printf(
             "%d %s: kernel %lu to %lu, USER %lu to %lu, GDI %lu to %lu, blocks %zu to %zu, "
             "bytes %zu to %zu, of all heaps %zu to %zu, private %zu to %zu\n",
