@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstdint>
+#include <map>
 #include <set>
 #include <utility>
 
@@ -87,12 +88,21 @@ std::vector<RegValueEntry> modRegistry::EnumValues(Hive hive, const std::string&
         result = open.Open(handle, key, KeyAccess::Read);
         handle = open.Handle();
     }
-    std::set<std::string> namesSoFar;
+    std::map<std::string, std::size_t> places;
     RawValue value;
     for (std::uint32_t index = 0; result == error::Success; ++index) {
         result = EnumRawValue(registry_, handle, index, NameCapacity, value);
         if (result != error::Success) break;
-        if (namesSoFar.insert(FoldedName(value.name)).second) entries.push_back(ToEntry(value));
+        const auto [place, isNew] = places.try_emplace(FoldedName(value.name), entries.size());
+        if (isNew) {
+            entries.push_back(ToEntry(value));
+            continue;
+        }
+        // Of several that the code page gives one name, the name reaches one.
+        RegValueEntry& entry = entries[place->second];
+        if (QueryRawValue(registry_, handle, entry.name, value) == error::Success) {
+            entry = ToEntry(value);
+        }
     }
     NoteRead(hive, key, "values", result);
     return entries;

@@ -170,13 +170,10 @@ class FieldNames : public FieldPages, public testing::WithParamInterface<Combina
         expected.push_back("{z} = last");
         if (name.isReachable) {
             expected.push_back(name.listed + " = own");
-        } else if (name.listed != name.namesake || isStartup) {
-            if (place.nameMakesARow)
-                expected.push_back(name.listed + (isStartup ? " = own" : " ="));
+        } else if (name.listed != name.namesake && place.nameMakesARow) {
+            expected.push_back(name.listed + (isStartup ? " = own" : " ="));
         }
-        if (!name.namesake.empty() && (name.listed != name.namesake || !isStartup)) {
-            expected.push_back(name.namesake + " = other");
-        }
+        if (!name.namesake.empty()) expected.push_back(name.namesake + " = other");
         std::sort(expected.begin(), expected.end());
         return expected;
     }
