@@ -15,7 +15,11 @@ class SaveDialog : public ProgramTest {
     // Gives the file's name as the user would.
     static void Give(const Window& dialog, const std::string& name) {
         BringToFront(dialog);
-        const Window edit = FocusOf(dialog.Thread());
+        const Window edit = WaitFor([&] {
+            const Window focus = FocusOf(dialog.Thread());
+            return focus && focus.Class() == "Edit" ? focus : Window();
+        });
+        ASSERT_TRUE(edit);
         edit.Send(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
         PressKey(VK_RETURN);
     }
