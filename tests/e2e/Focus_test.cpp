@@ -82,6 +82,7 @@ TEST_F(Focus, IsSeenInTheDialogOfAFile) {
     const Window dialog = Running().Dialog("frmviewInfo");
     ASSERT_TRUE(dialog);
     ASSERT_TRUE(BringToFront(dialog));
+    ASSERT_TRUE(WaitUntil([&] { return IsChild(dialog.Handle(), Focused(dialog).Handle()); }));
     MoveTo({0, 0});
     WalkRound(dialog);
     EXPECT_TRUE(dialog.Find("cmdOk").Click());
