@@ -91,9 +91,9 @@ TEST_F(Appearance, AMarkThatVanishesOnBlackIsShownReversed) {
     int reversed = 0;
     for (int row = 0; row < helpers.RowCount(); ++row) {
         const RECT area = helpers.LabelArea(row);
-        if (Count(area, Reversed) > 0) ++reversed;
         const LONG pixels = (area.right - area.left) * (area.bottom - area.top);
-        EXPECT_LT(Count(area, Black), pixels) << row << " is blank";
+        EXPECT_TRUE(WaitUntil([&] { return Count(area, Black) < pixels; })) << row << " is blank";
+        if (Count(area, Reversed) > 0) ++reversed;
     }
     EXPECT_GT(reversed, 0);
 }
