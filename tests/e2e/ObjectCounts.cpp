@@ -97,7 +97,7 @@ void CountGdiTable(HANDLE process, ObjectCounts& counts) {
     if (!ReadProcessMemory(process, address, table.data(), TableSize * sizeof(GdiEntry), nullptr)) {
         return;
     }
-    // Wine keeps the contexts of windows for the next who draws, most with a region and a bitmap.
+    // Wine keeps the contexts of windows for the next who draws, each with a region and a bitmap.
     constexpr DWORD ObjectsOfAContext = 3;
     counts.windowContexts = static_cast<DWORD>(std::ranges::count_if(table, IsWindowContext));
     counts.gdi = static_cast<DWORD>(std::ranges::count_if(table, IsUsed)) -
@@ -147,9 +147,7 @@ ObjectCounts RestingObjects(const Program& program) {
 void ExpectNoMoreObjects(const Program& program, const ObjectCounts& before) {
     const ObjectCounts now = RestingObjects(program);
     EXPECT_LE(now.kernel, before.kernel);
-    // Some of the contexts have an object more or less; what is lost each time is more than that.
-    constexpr DWORD Wavering = 6;
-    EXPECT_LE(now.gdi, before.gdi + (before.windowContexts > 0 ? Wavering : 0));
+    EXPECT_LE(now.gdi, before.gdi);
     EXPECT_LE(now.user, before.user);
     // How many contexts wait for the next who draws depends on how much was drawn at once; a
     // context that isn't given back is lost at every switch.
