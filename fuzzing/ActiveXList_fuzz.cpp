@@ -52,14 +52,11 @@ Names KeysByTheRules(const std::string& file, bool isWhole) {
     return keys;
 }
 
-// Whether it depends on the code page where the key's path can be parted: it takes more than one
-// call, and a backslash in it may be the second byte of a character.
+// Whether it depends on the code page where the key's path, which takes more than one call, can be
+// parted.
 bool IsOfDoubtfulLevels(const std::string& key) {
     constexpr std::size_t LongestCall = 259;
-    const auto doubtful = std::adjacent_find(key.begin(), key.end(), [](char byte, char next) {
-        return static_cast<unsigned char>(byte) >= 0x80 && next == '\\';
-    });
-    return key.size() > LongestCall && doubtful != key.end();
+    return key.size() > LongestCall && HasDoubtfulBackslash(key);
 }
 
 // Sets them; up to where a name is too long for the registry its path is made.

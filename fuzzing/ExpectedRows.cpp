@@ -63,15 +63,15 @@ bool HasZone(const MemoryHives& hives, Hive hive, const std::string& key) {
 // No call reaches what a name with a NUL in it stands for: its row is all that there is of it.
 bool IsShown(const MemoryHives& hives, const PageList& list, Hive hive, const std::string& holder,
              const std::string& name) {
-    if (list.shows == Shows::Each) return true;
-    if (HasNul(name)) return false;
+    const bool isReached = !HasNul(name);
     const std::string key = holder + "\\" + name;
     switch (list.shows) {
-        case Shows::WithClass:
-            return HasText(hives, hive, key, "CLSID");
-        case Shows::WithZone:
-            return HasZone(hives, hive, key);
         case Shows::Each:
+            return true;
+        case Shows::WithClass:
+            return isReached && HasText(hives, hive, key, "CLSID");
+        case Shows::WithZone:
+            return isReached && HasZone(hives, hive, key);
         case Shows::WithFile:
             break;
     }

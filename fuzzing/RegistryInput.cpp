@@ -105,11 +105,14 @@ bool HasControls(std::string_view name) {
                        [](char c) { return static_cast<unsigned char>(c) < ' '; });
 }
 
+bool HasDoubtfulBackslash(std::string_view name) {
+    return std::adjacent_find(name.begin(), name.end(), [](char byte, char next) {
+               return static_cast<unsigned char>(byte) >= 0x80 && next == '\\';
+           }) != name.end();
+}
+
 bool CanBeWritten(std::string_view name) {
-    for (std::size_t i = 0; i + 1 < name.size(); ++i) {
-        if (static_cast<unsigned char>(name[i]) >= 0x80 && name[i + 1] == '\\') return false;
-    }
-    return !HasControls(name);
+    return !HasControls(name) && !HasDoubtfulBackslash(name);
 }
 
 bool CanBeWritten(const MemoryHives& hives, Hive hive, const std::string& key) {

@@ -25,6 +25,9 @@ std::string TakeKeyName(FuzzInput& input);
 // Without a name.
 RawValue TakeValue(FuzzInput& input);
 
+// Whether a backslash in the text may be the second byte of a double-byte character.
+bool HasDoubtfulBackslash(std::string_view name);
+
 // Whether a registry file can hold a value of that name, or a key with all below it: no control
 // characters can stand there, nor in a value's name a backslash that may be half of a character.
 bool HasControls(std::string_view name);
